@@ -1,0 +1,21 @@
+# Private compile options of every target of the project: nothing of this reaches who links to it.
+add_library(analizador_opciones INTERFACE)
+target_compile_features(analizador_opciones INTERFACE cxx_std_20)
+target_include_directories(analizador_opciones INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(
+  analizador_opciones INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+                                $<$<BOOL:${ANALIZADOR_AVISOS_ERROR}>:-Werror>)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# A static library of the project: analizador_biblioteca(NAME SOURCES a.cpp ... LINKS public_lib ... PRIVATE_LINKS lib ...)
+function(analizador_biblioteca nombre)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  add_library(${nombre} STATIC ${ARG_SOURCES})
+  target_include_directories(${nombre} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+  set_target_properties(${nombre} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  target_link_libraries(${nombre} PUBLIC ${ARG_LINKS} PRIVATE $<BUILD_INTERFACE:analizador_opciones> ${ARG_PRIVATE_LINKS})
+endfunction()

@@ -1,0 +1,41 @@
+#pragma once
+
+// Paths and temporary files.
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace analizador {
+
+// Joins two parts of a path so that exactly one separator stands between them.
+[[nodiscard]] std::filesystem::path SlashSep(const std::filesystem::path& ruta,
+                                             const std::filesystem::path& resto);
+
+// The full name of the running program's file; empty when the system does not tell.
+[[nodiscard]] std::filesystem::path RutaPrograma();
+
+// A new, empty file that only this user can read, with an unguessable name that begins with `prefijo` and
+// ends in "." and `extension`, in `carpeta` (empty: the system's folder for temporary files). It belongs to
+// the caller, who removes it. Throws std::filesystem::filesystem_error.
+[[nodiscard]] std::filesystem::path FicheroTemporal_(const std::filesystem::path& carpeta,
+                                                     std::string_view prefijo, std::string_view extension);
+
+// What tells one content of a file from another: who it is, how long, and when it last changed. Equal marks
+// mean equal content only when the mark is not recent: a file written twice within the clock's resolution
+// keeps its mark.
+struct TMarcaFichero {
+    bool Existe = false;
+    std::uint64_t Dispositivo = 0;
+    std::uint64_t Identidad = 0;
+    std::uint64_t Longitud = 0;
+    std::int64_t Modificado = 0;  // nanoseconds
+    std::int64_t Cambiado = 0;    // nanoseconds; where the system keeps it, else as Modificado
+    bool Reciente = false;        // changed so lately that it may change again unseen
+    bool operator==(const TMarcaFichero&) const = default;
+};
+
+[[nodiscard]] TMarcaFichero MarcaDeFichero(const std::filesystem::path& fichero);
+
+}  // namespace analizador
