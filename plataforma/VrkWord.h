@@ -119,8 +119,8 @@ class TWordDocumentoCustom {
     [[nodiscard]] virtual std::string VariableValor(std::string_view nombre) const = 0;
 
     // Adds a bookmark over the selection. One of the same name (in any case) is replaced when `reemplaza` is
-    // true; otherwise it stays and is returned. A name is a letter or "_" and then letters, digits and "_", 40
-    // characters at most; others throw.
+    // true; otherwise it stays and is returned. A name is a letter or "_" and then letters, digits and "_",
+    // 40 characters at most; others throw.
     virtual TMarcador NuevoMarcador(std::string_view nombre, bool reemplaza) = 0;
 
     // The document's bookmarks by name, ignoring case; those whose name begins with "_" are hidden and left
