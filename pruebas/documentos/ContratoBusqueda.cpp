@@ -48,7 +48,8 @@ TEST_P(ContratoDocumento, BuscaDesdeElInicio) {
         // Letters with accents are letters; edges of other signs touch no word.
         {"AÑO NUEVO\r"_ansi, "O", BUSCA_TITULO, NO_HALLADO},
         {"VENDEá VENDEÑ ªVENDE\r"_ansi, "VENDE", BUSCA_TITULO, NO_HALLADO},
-        {"«VENDE» ×VENDE÷\r"_ansi, "VENDE", BUSCA_TITULO, Hallado("«"_ansi, "VENDE")},
+        {"«VENDE»\r"_ansi, "VENDE", BUSCA_TITULO, Hallado("«"_ansi, "VENDE")},
+        {"×VENDE÷\r"_ansi, "VENDE", BUSCA_TITULO, Hallado("×"_ansi, "VENDE")},
         {"_VENDE_\r", "VENDE", BUSCA_TITULO, Hallado("_", "VENDE")},
         {"COMPARECEN:Don Juan\r", "COMPARECEN:", BUSCA_TITULO, Hallado("", "COMPARECEN:")},
         {"\tEXPONEN\r", "EXPONEN", BUSCA_TITULO, Hallado("\t", "EXPONEN")},

@@ -14,7 +14,7 @@ constexpr int MUY_LEJOS = std::numeric_limits<int>::max();
 constexpr int MUY_ATRAS = std::numeric_limits<int>::min();
 
 TEST_P(ContratoDocumento, DaElTextoEntero) {
-    const std::vector<std::string_view> textos = {
+    constexpr std::string_view TEXTOS[] = {
         "\r"_ansi,
         "NÚMERO MIL DOSCIENTOS.\r"_ansi,
         "Uno\r\rTres\r"_ansi,
@@ -24,7 +24,7 @@ TEST_P(ContratoDocumento, DaElTextoEntero) {
         "fijo y opcio\x1Fnal\r",
         "Antes\rUno\r\aDos\rdos\r\a\r\aTres\r\a\r\a\r\aDespués\r"_ansi,
     };
-    for (const auto texto : textos) EXPECT_EQ(Abre(texto)->GetTexto(), texto);
+    for (const auto texto : TEXTOS) EXPECT_EQ(Abre(texto)->GetTexto(), texto);
 }
 
 TEST_P(ContratoDocumento, VaAlInicioYAlFinal) {
