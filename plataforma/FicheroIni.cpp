@@ -1,1 +1,175 @@
 #include "plataforma/FicheroIni.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <utility>
+
+#include "plataforma/Ansi.h"
+#include "plataforma/Rficheros.h"
+#include "plataforma/Rnumcad.h"
+
+namespace analizador {
+
+namespace {
+
+constexpr std::string_view MARCA_UTF8 = "\xEF\xBB\xBF";
+
+std::string_view SinComillas(std::string_view valor) {
+    if (valor.size() >= 2 && valor.front() == '"' && valor.back() == '"')
+        return valor.substr(1, valor.size() - 2);
+    return valor;
+}
+
+// The entry number that a key is: decimal digits without leading zeros.
+std::optional<std::size_t> NumeroDeEntrada(std::string_view clave) {
+    if (clave.empty() || clave.size() > 9 || clave.front() == '0') return std::nullopt;
+    std::size_t numero = 0;
+    for (const char c : clave) {
+        if (c < '0' || c > '9') return std::nullopt;
+        numero = numero * 10 + static_cast<std::size_t>(c - '0');
+    }
+    return numero;
+}
+
+const TFicheroIni::Clave* BuscaClave(const TFicheroIni::Seccion& seccion, std::string_view nombre) {
+    const std::string buscada = AnsiUpperCase(nombre);
+    const auto donde = std::find_if(seccion.Claves.begin(), seccion.Claves.end(), [&](const auto& clave) {
+        return AnsiUpperCase(clave.Nombre) == buscada;
+    });
+    return donde == seccion.Claves.end() ? nullptr : &*donde;
+}
+
+// Entries beyond the last one that the file gives are empty and find nothing, so the list ends there,
+// whatever count the file claims.
+std::vector<std::string> ListaDePalabras(const TFicheroIni::Seccion& seccion) {
+    const auto* const cuenta = BuscaClave(seccion, "NumPalabras");
+    const int n = cuenta == nullptr ? 0 : Cad_Int(cuenta->Valor);
+    std::vector<std::optional<std::string>> entradas;
+    for (const auto& clave : seccion.Claves) {
+        const auto numero = NumeroDeEntrada(clave.Nombre);
+        if (!numero || n <= 0 || *numero > static_cast<std::size_t>(n)) continue;
+        if (*numero > seccion.Claves.size() * 64 + 64) continue;  // a stray key must not cost memory
+        if (entradas.size() < *numero) entradas.resize(*numero);
+        if (auto& entrada = entradas[*numero - 1]; !entrada) entrada = clave.Valor;
+    }
+    std::vector<std::string> palabras;
+    palabras.reserve(entradas.size());
+    for (auto& entrada : entradas) palabras.push_back(std::move(entrada).value_or(std::string()));
+    return palabras;
+}
+
+}  // namespace
+
+TFicheroIni::TFicheroIni(std::string_view bytes) {
+    std::string convertido;
+    if (bytes.substr(0, MARCA_UTF8.size()) == MARCA_UTF8) {
+        convertido = AnsiDeUtf8(bytes.substr(MARCA_UTF8.size()));
+        bytes = convertido;
+    }
+    int numero = 0;
+    while (!bytes.empty()) {
+        const auto fin = bytes.find('\n');
+        const std::string_view linea = Recorta(bytes.substr(0, fin));
+        bytes.remove_prefix(fin == std::string_view::npos ? bytes.size() : fin + 1);
+        ++numero;
+        if (linea.empty() || linea.front() == ';') continue;
+        if (linea.front() == '[') {
+            const auto cierre = linea.find(']');
+            if (cierre != std::string_view::npos)
+                secciones_.push_back({std::string(Recorta(linea.substr(1, cierre - 1))), {}, numero});
+        } else if (const auto igual = linea.find('=');
+                   igual != std::string_view::npos && !secciones_.empty()) {
+            secciones_.back().Claves.push_back({std::string(Recorta(linea.substr(0, igual))),
+                                                std::string(SinComillas(Recorta(linea.substr(igual + 1)))),
+                                                numero});
+        }
+    }
+    for (const auto& seccion : secciones_)
+        palabras_.emplace_back(AnsiUpperCase(seccion.Nombre), ListaDePalabras(seccion));
+    // Stable, so that of two equal sections the first stands first and is the one found.
+    std::stable_sort(palabras_.begin(), palabras_.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+}
+
+const TFicheroIni::Seccion* TFicheroIni::BuscaSeccion(std::string_view nombre) const {
+    const std::string buscada = AnsiUpperCase(nombre);
+    const auto donde = std::find_if(secciones_.begin(), secciones_.end(),
+                                    [&](const Seccion& s) { return AnsiUpperCase(s.Nombre) == buscada; });
+    return donde == secciones_.end() ? nullptr : &*donde;
+}
+
+std::string TFicheroIni::LeeTexto(std::string_view seccion, std::string_view clave,
+                                  std::string_view defecto) const {
+    const Seccion* const encontrada = BuscaSeccion(seccion);
+    const Clave* const valor = encontrada == nullptr ? nullptr : BuscaClave(*encontrada, clave);
+    return valor == nullptr ? std::string(defecto) : valor->Valor;
+}
+
+int TFicheroIni::LeeEntero(std::string_view seccion, std::string_view clave, int defecto) const {
+    return EnteroDeCadena(LeeTexto(seccion, clave, "")).value_or(defecto);
+}
+
+const std::vector<std::string>& TFicheroIni::Palabras(std::string_view seccion) const {
+    static const std::vector<std::string> NINGUNA;
+    const std::string buscada = AnsiUpperCase(seccion);
+    const auto donde =
+        std::lower_bound(palabras_.begin(), palabras_.end(), buscada,
+                         [](const auto& par, const std::string& nombre) { return par.first < nombre; });
+    return donde == palabras_.end() || donde->first != buscada ? NINGUNA : donde->second;
+}
+
+namespace {
+
+struct TCopia {
+    TMarcaFichero Marca;
+    std::string Bytes;
+    std::shared_ptr<const TFicheroIni> Contenido;
+};
+
+std::string LeeBytes(const std::filesystem::path& fichero) {
+    std::ifstream entrada(fichero, std::ios::binary);
+    return {std::istreambuf_iterator<char>(entrada), std::istreambuf_iterator<char>()};
+}
+
+// Reads until the file stands still: the mark before and after the reading is the same.
+TCopia LeeCopia(const std::filesystem::path& fichero, TMarcaFichero marca) {
+    constexpr int INTENTOS = 100;
+    TCopia copia;
+    for (int i = 0; i < INTENTOS; ++i) {
+        copia.Marca = marca;
+        copia.Bytes = LeeBytes(fichero);
+        marca = MarcaDeFichero(fichero);
+        if (marca == copia.Marca && copia.Bytes.size() == marca.Longitud) break;
+    }
+    return copia;
+}
+
+}  // namespace
+
+std::shared_ptr<const TFicheroIni> AbreFicheroIni(const std::filesystem::path& fichero) {
+    static std::mutex cerrojo;
+    static std::map<std::filesystem::path, TCopia> copias;
+    static const auto VACIO = std::make_shared<const TFicheroIni>();
+
+    const TMarcaFichero marca = MarcaDeFichero(fichero);
+    const std::lock_guard guarda(cerrojo);
+    if (!marca.Existe) {
+        copias.erase(fichero);
+        return VACIO;
+    }
+    TCopia& guardada = copias[fichero];
+    if (guardada.Contenido && !marca.Reciente && marca == guardada.Marca) return guardada.Contenido;
+    TCopia nueva = LeeCopia(fichero, marca);
+    if (guardada.Contenido && guardada.Bytes == nueva.Bytes)
+        nueva.Contenido = guardada.Contenido;
+    else
+        nueva.Contenido = std::make_shared<const TFicheroIni>(nueva.Bytes);
+    guardada = std::move(nueva);
+    return guardada.Contenido;
+}
+
+}  // namespace analizador

@@ -70,13 +70,15 @@ class TSeleccion {
     // brought to its first and last position.
     virtual void PonIntervalo(TIntervalo intervalo) = 0;
 
-    // Moves the start (collapsing the selection there) up by one paragraph: to the start of its own
-    // paragraph, or of the one before when it already stands at a start. With `extiende` only the start
-    // moves.
+    // Moves the start up by one paragraph: to the start of its own paragraph, or of the one before when it
+    // already stands at a start. Without `extiende` the selection collapses there; one that was not empty
+    // collapses to its start first and so goes no further than the start of the paragraph that holds it:
+    // SubeParrafo(false) and BajaParrafo(true) after a search select the paragraph of the match. With
+    // `extiende` only the start moves. At the start of the document it stays.
     virtual void SubeParrafo(bool extiende) = 0;
 
-    // Moves the end down by one paragraph, to the start of the next one. Without `extiende` the selection
-    // collapses there.
+    // Moves the end down by one paragraph, to the start of the next one; in the last paragraph, behind its
+    // CR. Without `extiende` the selection collapses there, or before the last CR.
     virtual void BajaParrafo(bool extiende) = 0;
 
     // The text of the paragraph that holds the selection's start, its CR included.
@@ -96,10 +98,13 @@ class TWordDocumentoCustom {
     // The end of a document stands before its last CR.
     virtual void IrAlFinalDocumento() = 0;
 
-    // Looks for a literal text from the selection on (after its end when it is not empty), selects the match
-    // and returns true; otherwise the selection stays and the answer is false. Straight and curly quotes and
-    // apostrophes are equal, a blank finds a no-break space, optional hyphens of the document are passed
-    // over. An empty text is never found.
+    // Looks for a literal text from the selection on (after its end when it is not empty; backward, before
+    // its start), selects the match and returns true; otherwise the selection stays and the answer is false.
+    // With `Continua` the search goes on from the other end of the document to where it began, matches that
+    // straddle that point and the selection itself included. Straight and curly quotes and apostrophes are
+    // equal, a blank finds a no-break space, optional hyphens of the document are passed over; accents count.
+    // An empty text is never found. One of more than 255 characters and the options that have no meaning for
+    // a literal text (wildcards, sounds like, all word forms, format) throw.
     virtual bool Busca(std::string_view texto, const TOpcionesBusqueda& opciones) = 0;
 
     // The text of a stretch, and the texts of the paragraphs that it touches, whole, in order. An empty
@@ -114,7 +119,8 @@ class TWordDocumentoCustom {
     [[nodiscard]] virtual std::string VariableValor(std::string_view nombre) const = 0;
 
     // Adds a bookmark over the selection. One of the same name (in any case) is replaced when `reemplaza` is
-    // true; otherwise it stays and is returned.
+    // true; otherwise it stays and is returned. A name is a letter or "_" and then letters, digits and "_",
+    // 40 characters at most; others throw.
     virtual TMarcador NuevoMarcador(std::string_view nombre, bool reemplaza) = 0;
 
     // The document's bookmarks by name, ignoring case; those whose name begins with "_" are hidden and left

@@ -1,0 +1,113 @@
+#include "adaptadores/memoria/Buscador.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "adaptadores/memoria/Letras.h"
+#include "plataforma/Ansi.h"
+
+namespace analizador {
+
+namespace {
+
+constexpr std::size_t LONGITUD_MAXIMA = 255;
+constexpr std::size_t NO_ESTA = std::string_view::npos;
+
+bool EsGuionOpcional(char c) {
+    return c == '\x1F' || c == '\xAD';
+}
+
+char SinVariantes(char c) {
+    switch (c) {
+        case '\x91':
+        case '\x92':
+            return '\'';
+        case '\x93':
+        case '\x94':
+            return '"';
+        case '\xA0':
+            return ' ';
+        default:
+            return c;
+    }
+}
+
+std::string Comparable(std::string_view texto) {
+    std::string salida;
+    salida.reserve(texto.size());
+    for (const char c : texto)
+        if (!EsGuionOpcional(c)) salida.push_back(SinVariantes(c));
+    return salida;
+}
+
+// Whether a word runs across the position between two characters of the text.
+bool PartePalabra(std::string_view texto, std::size_t posicion) {
+    return posicion > 0 && posicion < texto.size() && EsLetraODigito(texto[posicion - 1]) &&
+           EsLetraODigito(texto[posicion]);
+}
+
+// One search: the text, what is looked for and whether words count, all of them comparable already.
+struct TBusqueda {
+    std::string_view Texto;
+    std::string_view Buscado;
+    bool PalabrasCompletas;
+
+    [[nodiscard]] bool Vale(std::size_t inicio) const {
+        return !PalabrasCompletas ||
+               (!PartePalabra(Texto, inicio) && !PartePalabra(Texto, inicio + Buscado.size()));
+    }
+
+    // The first match that begins at `desde` or later, or NO_ESTA.
+    [[nodiscard]] std::size_t Primera(std::size_t desde) const {
+        auto inicio = Texto.find(Buscado, desde);
+        while (inicio != NO_ESTA && !Vale(inicio)) inicio = Texto.find(Buscado, inicio + 1);
+        return inicio;
+    }
+
+    // The last match that ends at `hasta` or earlier, or NO_ESTA.
+    [[nodiscard]] std::size_t Ultima(std::size_t hasta) const {
+        const auto parte = Texto.substr(0, hasta);
+        auto inicio = parte.rfind(Buscado);
+        while (inicio != NO_ESTA && !Vale(inicio))
+            inicio = inicio == 0 ? NO_ESTA : parte.rfind(Buscado, inicio - 1);
+        return inicio;
+    }
+};
+
+void CompruebaOpciones(std::string_view buscado, const TOpcionesBusqueda& opciones) {
+    if (opciones.Comodines || opciones.SuenaComo || opciones.TodasLasFormas || opciones.Formato)
+        throw ErrorWord(std::string(
+            "No se puede buscar con comodines, por el sonido, por las formas de la palabra ni por el formato"_ansi));
+    if (buscado.size() > LONGITUD_MAXIMA)
+        throw ErrorWord(std::string("El texto que se busca tiene más de 255 caracteres"_ansi));
+}
+
+}  // namespace
+
+TBuscador::TBuscador(std::string_view texto) : FTexto(Comparable(texto)), FMayusculas(AnsiUpperCase(FTexto)) {
+    FPosiciones.reserve(FTexto.size());
+    for (std::size_t i = 0; i < texto.size(); ++i)
+        if (!EsGuionOpcional(texto[i])) FPosiciones.push_back(static_cast<int>(i));
+}
+
+std::optional<TIntervalo> TBuscador::Busca(std::string_view buscado, const TOpcionesBusqueda& opciones,
+                                           TIntervalo desde) const {
+    CompruebaOpciones(buscado, opciones);
+    const bool mayusculas = !opciones.DistingueMayusculas;
+    const std::string clave = mayusculas ? AnsiUpperCase(Comparable(buscado)) : Comparable(buscado);
+    if (clave.empty()) return std::nullopt;
+
+    const TBusqueda busqueda{mayusculas ? FMayusculas : FTexto, clave, opciones.PalabrasCompletas};
+    const auto comparable = [this](int posicion) {
+        const auto lugar = std::lower_bound(FPosiciones.begin(), FPosiciones.end(), posicion);
+        return static_cast<std::size_t>(lugar - FPosiciones.begin());
+    };
+    auto inicio = opciones.Adelante ? busqueda.Primera(comparable(desde.Fin))
+                                    : busqueda.Ultima(comparable(desde.Inicio));
+    if (inicio == NO_ESTA && opciones.Continua)
+        inicio = opciones.Adelante ? busqueda.Primera(0) : busqueda.Ultima(FTexto.size());
+    if (inicio == NO_ESTA) return std::nullopt;
+    return TIntervalo{FPosiciones[inicio], FPosiciones[inicio + clave.size() - 1] + 1};
+}
+
+}  // namespace analizador

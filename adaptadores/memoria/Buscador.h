@@ -1,0 +1,43 @@
+#pragma once
+
+// The find operation on a text that does not change.
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "plataforma/VrkWord.h"
+
+namespace analizador {
+
+// Looks for literal texts as TWordDocumentoCustom::Busca says, from byte index to byte index.
+//
+// A character equals itself, straight quotes and apostrophes the curly ones, the blank the no-break space,
+// and, when capitals do not matter, a letter its capital: accents always count. Optional hyphens (31, 173)
+// are passed over in the text and in what is looked for. A match begins and ends in a character that was
+// looked for; optional hyphens inside it belong to it.
+//
+// Whole words: letters (those of Windows-1252, ª and º too) and digits make words. A match is refused when
+// such a character at its edge touches another one outside; an edge of any other character always passes.
+class TBuscador {
+  public:
+    // Keeps folded copies of the text, the text itself not.
+    explicit TBuscador(std::string_view texto);
+
+    // The match that a search from the selection `desde` reaches first. Forward: the first one that begins
+    // at its end or later; backward: the last one that ends at its start or earlier. With `Continua` the
+    // search then goes on from the other end of the text over all other matches. None: no value; also when
+    // `buscado` holds nothing but optional hyphens.
+    // Throws ErrorWord for wildcards, sounds like, all word forms and format, and for more than 255
+    // characters.
+    [[nodiscard]] std::optional<TIntervalo> Busca(std::string_view buscado, const TOpcionesBusqueda& opciones,
+                                                  TIntervalo desde) const;
+
+  private:
+    std::string FTexto;            // equal characters made one, optional hyphens left out
+    std::string FMayusculas;       // the same in capitals
+    std::vector<int> FPosiciones;  // of each character of FTexto in the text
+};
+
+}  // namespace analizador

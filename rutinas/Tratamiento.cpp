@@ -1,0 +1,78 @@
+#include "rutinas/Tratamiento.h"
+
+#include <algorithm>
+
+#include "analizador/ConstAnalizador.h"
+#include "plataforma/Rut.h"
+
+namespace analizador {
+
+namespace {
+
+constexpr std::size_t NADA = std::string_view::npos;
+
+template <class TLista>
+auto DesdePosicion(TLista& ocurrencias, std::size_t posicion) {
+    return std::lower_bound(ocurrencias.begin(), ocurrencias.end(), posicion,
+                            [](const auto& ocurrencia, std::size_t p) { return ocurrencia.Posicion < p; });
+}
+
+}  // namespace
+
+TBuscadorTratamientos::TBuscadorTratamientos(std::string_view plegado)
+    : fichero_(AbreFicheroIni(TOKENS_INI())), texto_(plegado) {
+    constexpr std::string_view SEXOS = "HM";
+    for (std::size_t s = 0; s < CONST_SECCION_SEXOS.size(); ++s)
+        for (const std::string& entrada : fichero_->Palabras(CONST_SECCION_SEXOS[s]))
+            if (!entrada.empty()) {
+                TForma forma{entrada, SEXOS[s], {}};
+                Localiza(forma);
+                if (!forma.Ocurrencias.empty()) formas_.push_back(std::move(forma));
+            }
+}
+
+void TBuscadorTratamientos::Localiza(TForma& forma) const {
+    auto& ocurrencias = forma.Ocurrencias;
+    const std::string_view entrada = forma.Entrada;
+    for (std::size_t p = texto_.find(entrada); p != NADA; p = texto_.find(entrada, p + 1)) {
+        if (p + entrada.size() >= texto_.size() || texto_[p + entrada.size()] != ' ') continue;
+        const char anterior = p == 0 ? ' ' : texto_[p - 1];
+        ocurrencias.push_back({p, anterior == ' ' || anterior == '\n' || anterior == '\r', NADA, 0});
+    }
+    // After a false one the search goes on at the blank behind it; an occurrence that begins just there
+    // starts the cut text and so counts.
+    for (std::size_t i = ocurrencias.size(); i-- > 0;) {
+        const std::size_t corte = ocurrencias[i].Posicion + entrada.size();
+        const auto siguiente = DesdePosicion(ocurrencias, corte);
+        if (siguiente == ocurrencias.end()) continue;
+        if (siguiente->Cuenta || siguiente->Posicion == corte) {
+            ocurrencias[i].Valida = siguiente->Posicion;
+            ocurrencias[i].Corte = corte;
+        } else {
+            ocurrencias[i].Valida = siguiente->Valida;
+            ocurrencias[i].Corte = siguiente->Corte;
+        }
+    }
+}
+
+TTratamiento TBuscadorTratamientos::Desde(std::size_t desde) const {
+    TTratamiento mejor;
+    for (const TForma& forma : formas_) {
+        const auto primera = DesdePosicion(forma.Ocurrencias, desde);
+        if (primera == forma.Ocurrencias.end()) continue;
+        const bool cuenta = primera->Cuenta || primera->Posicion == desde;
+        const std::size_t verdadera = cuenta ? primera->Posicion : primera->Valida;
+        if (verdadera == NADA) continue;
+        const int posicion = static_cast<int>(verdadera - (cuenta ? desde : primera->Corte)) + 1;
+        if (mejor.Posicion == 0 || posicion < mejor.Posicion)
+            mejor = {posicion, std::string(forma.Entrada), forma.Sexo, {verdadera, forma.Entrada.size()}};
+    }
+    return mejor;
+}
+
+TTratamiento BuscaTratamiento(std::string_view texto) {
+    const std::string plegado = Pliega(texto);
+    return TBuscadorTratamientos(plegado).Desde(0);
+}
+
+}  // namespace analizador

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "plataforma/FicheroIni.h"
+#include "rutinas/RutAnalizador.h"
+
+namespace analizador {
+
+// The forms of address of one folded text, asked for again and again from positions that move on. Every
+// occurrence of every form is found once, so that a long paragraph costs one pass for each form however many
+// people it names.
+class TBuscadorTratamientos {
+  public:
+    // `plegado` is folded already and must outlive the object.
+    explicit TBuscadorTratamientos(std::string_view plegado);
+
+    // BuscaTratamiento of the text from `desde` (from 0) on: Posicion counts, with its approximation, in the
+    // text as cut there; Donde is in the whole text.
+    [[nodiscard]] TTratamiento Desde(std::size_t desde) const;
+
+  private:
+    struct TOcurrencia {
+        std::size_t Posicion;
+        bool Cuenta;         // it stands after a blank, LF or CR, or at the start of the text
+        std::size_t Valida;  // what counts from here on once this one is known to be false; npos: nothing
+        std::size_t Corte;   // where the text is cut when `Valida` is reached
+    };
+    struct TForma {
+        std::string_view Entrada;
+        char Sexo;
+        std::vector<TOcurrencia> Ocurrencias;
+    };
+    void Localiza(TForma& forma) const;
+
+    std::shared_ptr<const TFicheroIni> fichero_;
+    std::string_view texto_;
+    std::vector<TForma> formas_;
+};
+
+}  // namespace analizador
