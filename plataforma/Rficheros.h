@@ -36,6 +36,11 @@ struct TMarcaFichero {
     bool operator==(const TMarcaFichero&) const = default;
 };
 
+// The rule behind `Reciente`: modified or changed less than three seconds before `ahora`, or after it. All in
+// nanoseconds of one clock.
+[[nodiscard]] bool EsMarcaReciente(std::int64_t modificado, std::int64_t cambiado, std::int64_t ahora);
+
+// The mark of a file as it is now; `Existe` is false when there is none or it cannot be reached.
 [[nodiscard]] TMarcaFichero MarcaDeFichero(const std::filesystem::path& fichero);
 
 }  // namespace analizador

@@ -1,0 +1,111 @@
+#include "adaptadores/dbase/ProveedorDbase.h"
+
+#include <cstdint>
+#include <fstream>
+#include <utility>
+
+#include "plataforma/Ansi.h"
+
+namespace analizador {
+
+namespace {
+
+constexpr int INTENTOS_LECTURA = 5;
+constexpr std::string_view EXTENSION = ".DBF";
+
+std::string EnMayusculas(std::string_view texto) {
+    std::string mayusculas(texto);
+    for (char& c : mayusculas)
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    return mayusculas;
+}
+
+std::string Ansi(const std::filesystem::path& ruta) {
+    const std::u8string utf8 = ruta.u8string();
+    return AnsiDeUtf8(std::string(utf8.begin(), utf8.end()));
+}
+
+std::string ConExtension(std::string_view fichero) {
+    std::string nombre(fichero);
+    if (!EnMayusculas(nombre).ends_with(EXTENSION)) nombre += EXTENSION;
+    return nombre;
+}
+
+// The file of the folder with that name in whatever case; the exact name first.
+std::filesystem::path BuscaFichero(const std::filesystem::path& carpeta, const std::string& nombre) {
+    std::error_code error;
+    if (std::filesystem::is_regular_file(carpeta / nombre, error)) return carpeta / nombre;
+    const std::string buscado = EnMayusculas(nombre);
+    std::filesystem::directory_iterator entrada(carpeta, error);
+    for (; !error && entrada != std::filesystem::directory_iterator(); entrada.increment(error))
+        if (EnMayusculas(Ansi(entrada->path().filename())) == buscado) return entrada->path();
+    throw ErrorTabla("La tabla " + nombre + std::string(" no está en la carpeta "_ansi) + Ansi(carpeta));
+}
+
+// At most `longitud` bytes; fewer when the file has become shorter.
+std::string LeeEntero(const std::filesystem::path& ruta, std::uint64_t longitud) {
+    std::ifstream fichero(ruta, std::ios::binary);
+    if (!fichero) throw ErrorTabla("La tabla " + Ansi(ruta) + " no se puede abrir");
+    std::string contenido(longitud, '\0');
+    fichero.read(contenido.data(), static_cast<std::streamsize>(longitud));
+    if (fichero.bad()) throw ErrorTabla("La tabla " + Ansi(ruta) + " no se puede leer");
+    contenido.resize(static_cast<std::size_t>(fichero.gcount()));
+    return contenido;
+}
+
+// The content together with the mark that it had all along, so that it is never half of an old and half of a
+// new one.
+std::pair<TMarcaFichero, std::string> LeeConMarca(const std::filesystem::path& ruta) {
+    for (int i = 0; i < INTENTOS_LECTURA; ++i) {
+        const TMarcaFichero antes = MarcaDeFichero(ruta);
+        std::string contenido = LeeEntero(ruta, antes.Longitud);
+        TMarcaFichero despues = MarcaDeFichero(ruta);
+        despues.Reciente = antes.Reciente;
+        if (antes == despues && contenido.size() == antes.Longitud) return {antes, std::move(contenido)};
+    }
+    throw ErrorTabla("La tabla " + Ansi(ruta) + std::string(" está cambiando mientras se lee"_ansi));
+}
+
+}  // namespace
+
+TProveedorDbase::TProveedorDbase(std::filesystem::path carpeta) : comun_(std::move(carpeta)) {}
+
+TProveedorDbase::TProveedorDbase(const std::map<std::string, std::filesystem::path>& carpetas) {
+    for (const auto& [alias, carpeta] : carpetas) carpetas_[EnMayusculas(alias)] = carpeta;
+}
+
+std::filesystem::path TProveedorDbase::Carpeta(std::string_view alias) const {
+    if (!comun_.empty()) return comun_;
+    const auto carpeta = carpetas_.find(EnMayusculas(alias));
+    if (carpeta == carpetas_.end())
+        throw ErrorTabla(std::string("No se conoce la carpeta de las tablas del alias "_ansi) +
+                         std::string(alias));
+    return carpeta->second;
+}
+
+std::shared_ptr<TProveedorDbase::TEntrada> TProveedorDbase::Entrada(const std::filesystem::path& ruta) {
+    const std::lock_guard guarda(cerrojo_);
+    std::shared_ptr<TEntrada>& entrada = entradas_[ruta];
+    if (entrada == nullptr) entrada = std::make_shared<TEntrada>();
+    return entrada;
+}
+
+std::shared_ptr<const TTablaEnMemoria> TProveedorDbase::Tabla(const std::filesystem::path& ruta) {
+    const std::shared_ptr<TEntrada> entrada = Entrada(ruta);
+    const std::lock_guard guarda(entrada->Cerrojo);
+    const TMarcaFichero marca = MarcaDeFichero(ruta);
+    if (entrada->Tabla != nullptr && !marca.Reciente && marca == entrada->Marca) return entrada->Tabla;
+    auto [leida, contenido] = LeeConMarca(ruta);
+    entrada->Tabla = std::make_shared<const TTablaEnMemoria>(EnMayusculas(Ansi(ruta.stem())),
+                                                             std::move(contenido), Ansi(ruta));
+    entrada->Marca = leida;
+    return entrada->Tabla;
+}
+
+std::unique_ptr<TTabla> TProveedorDbase::Abre(std::string_view alias, std::string_view fichero,
+                                              std::string_view indice) {
+    const std::filesystem::path ruta = BuscaFichero(Carpeta(alias), ConExtension(fichero));
+    return std::make_unique<TTablaDbase>(Tabla(ruta), indice);
+}
+
+}  // namespace analizador
