@@ -1,0 +1,58 @@
+#include "analizador/Parrafos.h"
+
+#include <algorithm>
+#include <array>
+
+#include "plataforma/Rnumcad.h"
+
+namespace analizador {
+
+std::vector<TParrafo> ParrafosDe(const TWordDocumentoCustom& documento, TIntervalo intervalo) {
+    std::vector<TParrafo> parrafos;
+    int numero = documento.GetNumeroParrafo(intervalo.Inicio);
+    for (const std::string& texto : documento.GetParrafos(intervalo))
+        parrafos.push_back({numero++, TraduceCaracteresExtranosDeWord(texto)});
+    return parrafos;
+}
+
+namespace {
+
+// Whether a character disappears when a text of the word processor is made plain.
+bool Desaparece(char caracter) {
+    static const auto TABLA = [] {
+        std::array<bool, 256> tabla{};
+        for (std::size_t i = 0; i < tabla.size(); ++i)
+            tabla[i] = TraduceCaracteresExtranosDeWord(std::string(1, static_cast<char>(i))).empty();
+        return tabla;
+    }();
+    return TABLA[static_cast<unsigned char>(caracter)];
+}
+
+}  // namespace
+
+TPosicionesPorParrafo::TPosicionesPorParrafo(std::string_view texto, int primerParrafo, std::size_t desplazamiento)
+    : comienzos_{0}, primerParrafo_(primerParrafo), desplazamiento_(desplazamiento) {
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        if (Desaparece(texto[i]))
+            ausentes_.push_back(i);
+        else if (texto[i] == '\r')
+            comienzos_.push_back(i + 1);
+    }
+}
+
+std::size_t TPosicionesPorParrafo::Llanos(std::size_t desde, std::size_t hasta) const {
+    const auto hastaPosicion = [&](std::size_t p) {
+        return std::lower_bound(ausentes_.begin(), ausentes_.end(), p) - ausentes_.begin();
+    };
+    return hasta - desde - static_cast<std::size_t>(hastaPosicion(hasta) - hastaPosicion(desde));
+}
+
+TOrigen TPosicionesPorParrafo::Origen(Tramo tramo) const {
+    const auto siguiente = std::upper_bound(comienzos_.begin(), comienzos_.end(), tramo.Primera);
+    const auto parrafo = siguiente - comienzos_.begin() - 1;
+    const std::size_t comienzo = *(siguiente - 1);
+    const std::size_t primera = Llanos(comienzo, tramo.Primera) + (parrafo == 0 ? desplazamiento_ : 0);
+    return {primerParrafo_ + static_cast<int>(parrafo), {primera, Llanos(tramo.Primera, tramo.Primera + tramo.Longitud)}};
+}
+
+}  // namespace analizador
