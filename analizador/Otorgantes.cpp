@@ -32,13 +32,13 @@ void TClassAnalizadorAbierto::DesglosaParrafoRepresentacion(std::string_view tex
     TClassParrafoRepresentacion parrafo(texto, numero);
     parrafo.Desglosa();
     // The one who acts for another was named before, as a rule: looked up before the paragraph adds anybody.
-    TROtorgante* const representante = Otorgante(parrafo.Representante, OtorgantesEncontrados.Lista);
+    TROtorgante* const representante = Otorgante(parrafo.Representante.Valor, OtorgantesEncontrados.Lista);
     parrafo.RellenaListaOtorgantes(OtorgantesEncontrados);
     if (representante == nullptr) return;
     representante->IntervencionVRK = EN_REPRESENTACION_DE;
     representante->IntervencionINTI = INTI_REPRESENTANTE;
     TOrigenes& origenes = OrigenesDe(OtorgantesEncontrados, *representante);
-    origenes["IntervencionINTI"] = origenes["IntervencionVRK"] = {numero, parrafo.Personas.front().Donde};
+    origenes["IntervencionINTI"] = origenes["IntervencionVRK"] = {numero, parrafo.Representante.Donde};
 }
 
 void TClassAnalizadorAbierto::DesglosaParrafoParteDeudora(std::string_view texto, int numero) {
