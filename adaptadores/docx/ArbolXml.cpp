@@ -25,6 +25,11 @@ bool DeclaraTipo(const pugi::xml_document& documento) {
                                [](pugi::xml_node nodo) { return nodo.type() == pugi::node_doctype; });
 }
 
+std::size_t ExigePosicion(std::ptrdiff_t posicion) {
+    if (posicion <= 0) throw FalloDocx("su XML está escrito de un modo en que no se puede cambiar");
+    return static_cast<std::size_t>(posicion);
+}
+
 }  // namespace
 
 TArbolXml::TArbolXml(std::string_view xml, const std::string& parte) : Memoria(xml.begin(), xml.end()) {
@@ -41,13 +46,11 @@ TArbolXml::TArbolXml(std::string_view xml, const std::string& parte) : Memoria(x
 }
 
 std::size_t PosicionDeEtiqueta(pugi::xml_node elemento) {
-    const auto nombre = elemento.offset_debug();  // where its name begins
-    return nombre > 0 ? static_cast<std::size_t>(nombre) - 1 : std::string::npos;
+    return ExigePosicion(elemento.offset_debug()) - 1;  // the name follows the "<"
 }
 
 std::size_t PosicionDeTexto(pugi::xml_node texto) {
-    const auto posicion = texto.offset_debug();
-    return posicion > 0 ? static_cast<std::size_t>(posicion) : std::string::npos;
+    return ExigePosicion(texto.offset_debug());
 }
 
 bool EstaActivo(pugi::xml_node interruptor, bool siFalta) {

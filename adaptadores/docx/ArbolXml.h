@@ -37,10 +37,11 @@ class TArbolXml {
     std::string Espacio;
 };
 
-// The position of an element's "<" in the XML that the tree was made from; npos when it is not known.
+// The position of an element's "<" in the XML that the tree was made from. Throws FalloDocx when it is not
+// known: the element belongs to another namespace than the format's and is written without prefix.
 [[nodiscard]] std::size_t PosicionDeEtiqueta(pugi::xml_node elemento);
 
-// The position in the XML of a text node's first character.
+// The position in the XML of a text node's first character. Throws FalloDocx likewise.
 [[nodiscard]] std::size_t PosicionDeTexto(pugi::xml_node texto);
 
 // What an on/off element says: true without a value; `siFalta` when there is no element.

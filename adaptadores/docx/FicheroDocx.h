@@ -58,6 +58,10 @@ class TFicheroDocx {
                 const TOpcionesGuardado& opciones = {});
 
   private:
+    void ExigeSinCambios() const;
+    void ExigeSinFirma() const;
+    void Adopta(std::string nuevo);
+
     std::filesystem::path Fichero;
     std::string Bytes;
     TMarcaFichero Marca;
