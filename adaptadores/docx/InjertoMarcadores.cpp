@@ -48,8 +48,7 @@ class TIdentificadores {
 };
 
 // The bookmarks' elements that bear one of `nombres` (upper case), starts and ends.
-std::vector<pugi::xml_node> ElementosDe(const std::unordered_set<std::string>& nombres,
-                                        pugi::xml_node raiz) {
+std::vector<pugi::xml_node> ElementosDe(const std::unordered_set<std::string>& nombres, pugi::xml_node raiz) {
     std::vector<pugi::xml_node> elementos;
     std::unordered_map<std::string_view, bool> abiertos;  // by identifier: whether it goes
     for (auto nodo = raiz; nodo; nodo = NodoSiguiente(nodo, raiz)) {
