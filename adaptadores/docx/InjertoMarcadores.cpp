@@ -44,7 +44,7 @@ class TIdentificadores {
     }
 
     std::unordered_set<int> Usados;
-    int Siguiente = 0;
+    int Siguiente = 1;
 };
 
 // The bookmarks' elements that bear one of `nombres` (upper case), starts and ends.
