@@ -1,6 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <string>
+#include <utility>
+
 #include "plataforma/Ansi.h"
+#include "plataforma/Rnumcad.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
 #include "rutinas/RutAnalizador.h"
@@ -107,6 +112,52 @@ TEST_F(Sociedades, DondeSeLeyoElCodigo) {
     EXPECT_EQ(EnTramo(texto, halladas[0].Nombre), "U\tno");
     EXPECT_EQ(halladas[0].Sociedad.NumDocumento, "B12345674");
     EXPECT_EQ(EnTramo(texto, halladas[0].Documento), "B-12.345.674");
+}
+
+using TLeidaConCopias = std::pair<std::string, std::string>;  // name and tax code
+
+// The same rules over copies of what is left of the text, slow and plain.
+std::vector<TLeidaConCopias> BuscaSociedadesConCopias(std::string texto) {
+    std::vector<TLeidaConCopias> sociedades;
+    const auto lee = [&](int comilla) {
+        texto = texto.substr(static_cast<std::size_t>(comilla));
+        const auto cierre = static_cast<std::size_t>(Pos("\"", texto));
+        std::string nombre(cierre == 0 ? "" : texto.substr(0, cierre - 1));
+        texto = cierre == 0 ? "" : texto.substr(cierre);
+        sociedades.emplace_back(std::move(nombre), BuscaCif(texto).Valor);
+    };
+    TToken palabra = ContieneToken("REPRESENTACION", texto);
+    if (palabra.Posicion == 0 && Pos("\"", texto) != 0) lee(Pos("\"", texto));
+    for (; palabra.Posicion != 0; palabra = ContieneToken("REPRESENTACION", texto)) {
+        texto = texto.substr(static_cast<std::size_t>(palabra.Posicion) - 1 + palabra.Entrada.size());
+        const TTratamiento t = BuscaTratamiento(texto);
+        const int comilla = Pos("\"", texto);
+        if (comilla != 0 && (t.Posicion == 0 || t.Posicion >= comilla))
+            lee(comilla);
+        else if (t.Posicion != 0)
+            texto = texto.substr(static_cast<std::size_t>(t.Posicion) - 1 + t.Tratamiento.size());
+        else
+            texto.clear();
+    }
+    return sociedades;
+}
+
+TEST_F(Sociedades, LoMismoQueConCopias) {
+    const std::vector<std::string_view> trozos = {"\"",      "\"",   "EN NOMBRE ", "EN NOMBRE",  "DON ",
+                                                  "CORDON ", "UNO",  ", ",         "B12345674 ", "X1234567 ",
+                                                  " Y ",     "123 ", "\t",         "A1\n",       "A58818501"};
+    std::uint32_t semilla = 1;
+    for (int vez = 0; vez < 400; ++vez) {
+        std::string texto;
+        for (int i = 0; i < 14; ++i) {
+            semilla = semilla * 1664525U + 1013904223U;
+            texto += trozos[(semilla >> 16U) % trozos.size()];
+        }
+        std::vector<TLeidaConCopias> sociedades;
+        for (const auto& hallada : BuscaSociedades(texto))
+            sociedades.emplace_back(hallada.Sociedad.Apellidos, hallada.Sociedad.NumDocumento);
+        ASSERT_EQ(sociedades, BuscaSociedadesConCopias(texto)) << texto;
+    }
 }
 
 }  // namespace
