@@ -68,8 +68,7 @@ TSeccionesDePrueba Catalan() {
 // A country's row: its words repeat where the tests need no difference.
 std::vector<std::string> Pais(std::string codigo, std::string nombre, std::string femenino,
                               std::string masculino, std::string catalan) {
-    return {codigo, nombre,   "2",       femenino, masculino, femenino, "",
-            "",     catalan, "", catalan, "",       ""};
+    return {codigo, nombre, "2", femenino, masculino, femenino, "", "", catalan, "", catalan, "", ""};
 }
 
 std::vector<std::string> Provincia(std::string codigo, std::string nombre) {
@@ -85,17 +84,17 @@ EscenaClientes::EscenaClientes() : vocabulario_(Castellano(), Catalan()) {
                                   {"MADRID", "28001", "Madrid", "28079", "28"},
                                   {"MADRID", "28013", "Madrid", "28079", "28"},
                                   {"TOLEDO", "45001", "TOLEDO", "45168", "45"}}});
-    tablas_.Pon("POSTAL.DBF", {{"PROVINCIA", "VIA", "TIPO_VIA", "IMPAR_INI", "IMPAR_FIN", "PAR_INI", "PAR_FIN",
-                                "CODPOSTAL"},
+    tablas_.Pon("POSTAL.DBF", {{"PROVINCIA", "VIA", "TIPO_VIA", "IMPAR_INI", "IMPAR_FIN", "PAR_INI",
+                                "PAR_FIN", "CODPOSTAL"},
                                {{"28", "MAYOR", "CL", "1", "0", "2", "0", "28013"}}});
-    tablas_.Pon("AYUNTAM.DBF",
-                {{"LUGAR", "COD_INE", "CODPOSTAL", "NOMBRE", "ABREVIATUR"}, {{"1", "28079", "28001", "MADRID", "MAD"}}});
-    tablas_.Pon("PROVIN.DBF", {{"CODIGO", "PROVINCIA", "GRUPO", "NACIONALID", "GENTIL1_MA", "GENTIL1_FE",
-                                "GENTIL2_MA", "GENTIL2_FE", "NACIONA_CA", "GEN1_MA_CA", "GEN1_FE_CA",
-                                "GEN2_MA_CA", "GEN2_FE_CA"},
-                               {Provincia("25", "LERIDA"), Provincia("28", "MADRID"), Provincia("45", "TOLEDO"),
-                                Pais("110", "FRANCIA", "FRANCESA", "FRANCES", "FRANCESA"),
-                                Pais("126", "ALEMANIA", "ALEMANA", "ALEMAN", "ALEMANYA")}});
+    tablas_.Pon("AYUNTAM.DBF", {{"LUGAR", "COD_INE", "CODPOSTAL", "NOMBRE", "ABREVIATUR"},
+                                {{"1", "28079", "28001", "MADRID", "MAD"}}});
+    tablas_.Pon("PROVIN.DBF",
+                {{"CODIGO", "PROVINCIA", "GRUPO", "NACIONALID", "GENTIL1_MA", "GENTIL1_FE", "GENTIL2_MA",
+                  "GENTIL2_FE", "NACIONA_CA", "GEN1_MA_CA", "GEN1_FE_CA", "GEN2_MA_CA", "GEN2_FE_CA"},
+                 {Provincia("25", "LERIDA"), Provincia("28", "MADRID"), Provincia("45", "TOLEDO"),
+                  Pais("110", "FRANCIA", "FRANCESA", "FRANCES", "FRANCESA"),
+                  Pais("126", "ALEMANIA", "ALEMANA", "ALEMAN", "ALEMANYA")}});
 }
 
 std::map<std::string, std::string> EscenaClientes::Leido(std::string_view parrafo, const TOrigenes& origenes,
@@ -109,7 +108,9 @@ std::map<std::string, std::string> EscenaClientes::Leido(std::string_view parraf
 }
 
 void PrintTo(const TROtorgante& o, std::ostream* salida) {
-    const auto pon = [&](const char* campo, const auto& valor) { *salida << "\n  " << campo << ": " << valor; };
+    const auto pon = [&](const char* campo, const auto& valor) {
+        *salida << "\n  " << campo << ": " << valor;
+    };
     pon("TipoDocumento", o.TipoDocumento);
     pon("NumDocumento", o.NumDocumento);
     pon("Sexo", o.Sexo);

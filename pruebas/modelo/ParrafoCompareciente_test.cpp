@@ -65,15 +65,15 @@ TEST_F(ParrafoCompareciente, UnaPersonaConTodosSusDatos) {
                                          .EnXML = false}));
     ASSERT_EQ(lista_.Origenes.size(), 1U);
     EXPECT_EQ(Leido(PARRAFO_ANA, lista_.Origenes[0], PARRAFO), (TLeido{{"TipoDocumento", "12.345.678-Z"},
-                                                                      {"NumDocumento", "12.345.678-Z"},
-                                                                      {"Sexo", "DOÑA"},
-                                                                      {"Nombre", "ANA GARCÍA LÓPEZ"},
-                                                                      {"Apellidos", "ANA GARCÍA LÓPEZ"},
-                                                                      {"EstadoCivil", "solter"},
-                                                                      {"Vecindad", "Toledo"},
-                                                                      {"TipoVia", "calle"},
-                                                                      {"Domicilio", "Mayor"},
-                                                                      {"Numero", "7"}}));
+                                                                       {"NumDocumento", "12.345.678-Z"},
+                                                                       {"Sexo", "DOÑA"},
+                                                                       {"Nombre", "ANA GARCÍA LÓPEZ"},
+                                                                       {"Apellidos", "ANA GARCÍA LÓPEZ"},
+                                                                       {"EstadoCivil", "solter"},
+                                                                       {"Vecindad", "Toledo"},
+                                                                       {"TipoVia", "calle"},
+                                                                       {"Domicilio", "Mayor"},
+                                                                       {"Numero", "7"}}));
 }
 
 TEST_F(ParrafoCompareciente, UnMatrimonioConSusDosDocumentos) {
@@ -178,17 +178,18 @@ TEST_F(ParrafoCompareciente, EnCatalan) {
                                          .Padre = "",
                                          .Madre = "",
                                          .EnXML = false}));
-    EXPECT_EQ(Leido(PARRAFO_CATALAN, lista_.Origenes[0], PARRAFO), (TLeido{{"TipoDocumento", "12345678-Z"},
-                                                                          {"NumDocumento", "12345678-Z"},
-                                                                          {"Sexo", "La senyora"},
-                                                                          {"Nombre", "MONTSERRAT PUIG I SERRA"},
-                                                                          {"Apellidos", "MONTSERRAT PUIG I SERRA"},
-                                                                          {"EstadoCivil", "casad"},
-                                                                          {"Regimen", "separació de béns"},
-                                                                          {"Vecindad", "Lleida"},
-                                                                          {"TipoVia", "plaça"},
-                                                                          {"Domicilio", "Sant Joan"},
-                                                                          {"Numero", "12"}}));
+    EXPECT_EQ(Leido(PARRAFO_CATALAN, lista_.Origenes[0], PARRAFO),
+              (TLeido{{"TipoDocumento", "12345678-Z"},
+                      {"NumDocumento", "12345678-Z"},
+                      {"Sexo", "La senyora"},
+                      {"Nombre", "MONTSERRAT PUIG I SERRA"},
+                      {"Apellidos", "MONTSERRAT PUIG I SERRA"},
+                      {"EstadoCivil", "casad"},
+                      {"Regimen", "separació de béns"},
+                      {"Vecindad", "Lleida"},
+                      {"TipoVia", "plaça"},
+                      {"Domicilio", "Sant Joan"},
+                      {"Numero", "12"}}));
 }
 
 TEST_F(ParrafoCompareciente, ElMatrimonioCatalanSeSeparaPorSuConjuncion) {
@@ -237,15 +238,16 @@ TEST_F(ParrafoCompareciente, DeUnExtranjeroLaDireccionEnteraYNadaDeLasTablas) {
                                          .Padre = "",
                                          .Madre = "",
                                          .EnXML = false}));
-    EXPECT_EQ(Leido(PARRAFO_HANS, lista_.Origenes[0], PARRAFO), (TLeido{{"TipoDocumento", "C01X00T47"},
-                                                                       {"NumDocumento", "C01X00T47"},
-                                                                       {"Sexo", "DON"},
-                                                                       {"Nombre", "HANS MEYER"},
-                                                                       {"Apellidos", "HANS MEYER"},
-                                                                       {"EstadoCivil", "casad"},
-                                                                       {"Domicilio", "Berlín, Hauptstrasse 5"},
-                                                                       {"Pais", "Alemania"},
-                                                                       {"Nacionalidad", "francesa"}}));
+    EXPECT_EQ(Leido(PARRAFO_HANS, lista_.Origenes[0], PARRAFO),
+              (TLeido{{"TipoDocumento", "C01X00T47"},
+                      {"NumDocumento", "C01X00T47"},
+                      {"Sexo", "DON"},
+                      {"Nombre", "HANS MEYER"},
+                      {"Apellidos", "HANS MEYER"},
+                      {"EstadoCivil", "casad"},
+                      {"Domicilio", "Berlín, Hauptstrasse 5"},
+                      {"Pais", "Alemania"},
+                      {"Nacionalidad", "francesa"}}));
 }
 
 // Abroad the second party has what the paragraph says, and no more.
@@ -268,7 +270,8 @@ TEST_F(ParrafoCompareciente, UnMatrimonioEnElExtranjero) {
 
 // A municipality that the tables do not know becomes the office's, which was read nowhere.
 TEST_F(ParrafoCompareciente, LoQueDeciDenLasTablasNoTieneOrigen) {
-    Analiza("DOÑA ANA GIL, vecina de Villaperdida, con domicilio en la calle Mayor, número 7, con D.N.I. 12345678-Z.\r"_ansi);
+    Analiza(
+        "DOÑA ANA GIL, vecina de Villaperdida, con domicilio en la calle Mayor, número 7, con D.N.I. 12345678-Z.\r"_ansi);
     ASSERT_EQ(lista_.Lista.Cuenta(), 1U);
     EXPECT_EQ(Otorgante(0).Vecindad, "MADRID");
     EXPECT_EQ(Otorgante(0).CodPostal, "28001");
@@ -316,19 +319,24 @@ TEST_F(ParrafoCompareciente, QuienEsParteYConQueDocumento) {
          {"GIL MAS, JUAN - 12345678Z (1) / ROIG SANZ, EVA"}},
         {"a NIE, then a NIF",
          "DON JUAN GIL MAS y DOÑA EVA ROIG SANZ, con X1234567L y 12345678-Z.\r"_ansi,
-         {"GIL MAS, JUAN - X1234567L (3) / ROIG SANZ, EVA", "ROIG SANZ, EVA - 12345678Z (1) / GIL MAS, JUAN"}},
+         {"GIL MAS, JUAN - X1234567L (3) / ROIG SANZ, EVA",
+          "ROIG SANZ, EVA - 12345678Z (1) / GIL MAS, JUAN"}},
         {"a company's code, then a NIF: both take the NIF",
          "DON JUAN GIL MAS y DOÑA EVA ROIG SANZ, con B12345674 y 12345678-Z.\r"_ansi,
-         {"GIL MAS, JUAN - 12345678Z (1) / ROIG SANZ, EVA", "ROIG SANZ, EVA - 12345678Z (1) / GIL MAS, JUAN"}},
+         {"GIL MAS, JUAN - 12345678Z (1) / ROIG SANZ, EVA",
+          "ROIG SANZ, EVA - 12345678Z (1) / GIL MAS, JUAN"}},
         {"a NIF, then another document",
          "DON JUAN GIL MAS y DOÑA EVA ROIG SANZ, con 12345678-Z y B12345674.\r"_ansi,
-         {"GIL MAS, JUAN - 12345678Z (1) / ROIG SANZ, EVA", "ROIG SANZ, EVA - B12345674 (5) / GIL MAS, JUAN"}},
+         {"GIL MAS, JUAN - 12345678Z (1) / ROIG SANZ, EVA",
+          "ROIG SANZ, EVA - B12345674 (5) / GIL MAS, JUAN"}},
         {"a date between two NIFs",
          "DON JUAN GIL MAS y DOÑA EVA ROIG SANZ, con 12345678-Z, de 12-03-2001, y 87654321-X.\r"_ansi,
-         {"GIL MAS, JUAN - 12345678Z (1) / ROIG SANZ, EVA", "ROIG SANZ, EVA - 87654321X (1) / GIL MAS, JUAN"}},
+         {"GIL MAS, JUAN - 12345678Z (1) / ROIG SANZ, EVA",
+          "ROIG SANZ, EVA - 87654321X (1) / GIL MAS, JUAN"}},
         {"two passports",
          "DON JUAN GIL MAS y DOÑA EVA ROIG SANZ, con pasaportes AAA123456 y BBB654321.\r"_ansi,
-         {"GIL MAS, JUAN - AAA123456 (4) / ROIG SANZ, EVA", "ROIG SANZ, EVA - BBB654321 (4) / GIL MAS, JUAN"}},
+         {"GIL MAS, JUAN - AAA123456 (4) / ROIG SANZ, EVA",
+          "ROIG SANZ, EVA - BBB654321 (4) / GIL MAS, JUAN"}},
         {"a passport, then a NIF",
          "DON JUAN GIL MAS, con pasaporte AAA123456.\r"_ansi,
          {"GIL MAS, JUAN - AAA123456 (4)"}},
