@@ -253,7 +253,7 @@ TEST_F(ParrafoCompareciente, DeUnExtranjeroLaDireccionEnteraYNadaDeLasTablas) {
 // Abroad the second party has what the paragraph says, and no more.
 TEST_F(ParrafoCompareciente, UnMatrimonioEnElExtranjero) {
     Analiza(
-        "DON HANS MEYER y DOÑA EVA BRAUN, cónyuges, vecinos de 10115-Berlín, no residentes, con domicilio en Hauptstrasse 5 (Alemania), con pasaportes C01X00T47 y C02X00T48.\r"_ansi);
+        "DON HANS MEYER y DOÑA EVA BRAUN, cónyuges, vecinos de 10115 - Berlín, no residentes, con domicilio en Hauptstrasse 5 (Alemania), con pasaportes C01X00T47 y C02X00T48.\r"_ansi);
     ASSERT_EQ(lista_.Lista.Cuenta(), 2U);
     for (const std::size_t i : {0U, 1U}) {
         EXPECT_EQ(Otorgante(i).Domicilio, "HAUPTSTRASSE 5") << i;
@@ -413,8 +413,9 @@ TEST_F(ParrafoCompareciente, DesglosaRellenaLosCampos) {
     EXPECT_TRUE(parrafo.Residente);
     EXPECT_TRUE(parrafo.Personas.empty());
     parrafo.Desglosa();
-    ASSERT_EQ(parrafo.Documentos.size(), 1U);
-    EXPECT_EQ(parrafo.Documentos[0].Valor, (TRDocumento{1, "12345678Z"}));
+    ASSERT_EQ(parrafo.Documentos.size(), 2U);
+    EXPECT_EQ(parrafo.Documentos[0].Valor, (TRDocumento{5, "28013Madrid"}));  // any long word with a digit
+    EXPECT_EQ(parrafo.Documentos[1].Valor, (TRDocumento{1, "12345678Z"}));
     ASSERT_EQ(parrafo.Personas.size(), 1U);
     EXPECT_EQ(parrafo.Personas[0].Valor, (TRPersona{"H", "JUAN", "GIL MAS"}));
     EXPECT_TRUE(parrafo.Sociedades.empty());

@@ -48,7 +48,7 @@ class ParrafosConSociedad : public EscenaClientes {
 TEST_F(ParrafosConSociedad, QuienYaComparecioSoloTraeALosQueRepresenta) {
     Comparecio("JUAN", "PEREZ GIL", "12345678Z");
     constexpr std::string_view TEXTO =
-        "DON JUAN PÉREZ GIL, con D.N.I. 12345678-Z, interviene en nombre y representación de la mercantil \"Promociones Sur, S.L.\", domiciliada en 45003-Toledo, avenida de Europa, número 14, con C.I.F. B12345674, y de DOÑA EVA MAS ROIG, viuda, con D.N.I. 87654321-X.\r"_ansi;
+        "DON JUAN PÉREZ GIL, con D.N.I. 12345678-Z, interviene en nombre y representación de la mercantil \"Promociones Sur, S.L.\", domiciliada en 45003 - Toledo, avenida de Europa, número 14, con C.I.F. B12345674, y de DOÑA EVA MAS ROIG, viuda, con D.N.I. 87654321-X.\r"_ansi;
     Analiza<TClassParrafoRepresentacion>(TEXTO);
     ASSERT_EQ(Lineas(),
               (std::vector<std::string>{"JUAN PEREZ GIL", "Promociones Sur, S.L.", "EVA MAS ROIG"}));
@@ -164,6 +164,9 @@ TEST_F(ParrafosConSociedad, AQuienesAnadeUnaRepresentacion) {
         {"a known name inside the paragraph's longer one",
          "DON JUAN PEREZ GILABERT, con D.N.I. 00000000-T.\r"_ansi,
          {}},
+        {"a company without a code takes the next number, whose bearer is left without it",
+         "En nombre, y en nombre y representación de \"BANCO SUR\" y de DOÑA EVA MAS ROIG, con D.N.I. 87654321-X.\r"_ansi,
+         {"BANCO SUR"}},
         {"a quote that is never closed",
          "DON JUAN PEREZ GIL en nombre y representación de \"BANCO SUR.\r"_ansi,
          {""}},
@@ -247,7 +250,7 @@ TEST_F(ParrafosConSociedad, LosDeudoresTomanLaIntervencionQueDiceElParrafo) {
 
 TEST_F(ParrafosConSociedad, QuienEstaAntesDeLaFraseNoEsDeudor) {
     Analiza<TClassParrafoParteDeudora>(
-        "\"BANCO SUR\" presta a la parte deudora, DON LUIS COSTA, con D.N.I. 00000000-T.\r"_ansi);
+        "\"BANCO SUR\", con C.I.F. A12345674, presta a la parte deudora, DON LUIS COSTA, con D.N.I. 00000000-T.\r"_ansi);
     ASSERT_EQ(Lineas(), (std::vector<std::string>{"BANCO SUR", "LUIS COSTA"}));
     EXPECT_EQ(Otorgante(0).IntervencionINTI, 99);
     EXPECT_EQ(Otorgante(1).IntervencionINTI, 4);
