@@ -74,6 +74,7 @@ void TClassAnalizadorAbierto::InicializaAnalisis() {
     Fincas.clear();
     Cabecera.Limpia();
     Operacion.Limpia();
+    OrigenOperacion = {};
 }
 
 void TClassAnalizadorAbierto::AnalizaCabecera(bool RevisarNotario) {
@@ -133,11 +134,32 @@ bool TClassAnalizadorAbierto::HayAlgunTipoPrestamo() const {
     return AlgunConcepto(Cabecera.Conceptos, [](const TRConcepto& concepto) { return concepto.Prestamo; });
 }
 
-void TClassAnalizadorAbierto::AnalizaFincas() { Fincas = FincasDeMarcadores(Documento().GetMarcadores()); }
+void TClassAnalizadorAbierto::AnalizaFincas() {
+    for (const TMarcador& marcador : Documento().GetMarcadores()) {
+        auto finca = NombreFinca(marcador.Nombre);
+        if (finca && std::find(Fincas.begin(), Fincas.end(), *finca) == Fincas.end()) Fincas.push_back(std::move(*finca));
+    }
+}
 
 void TClassAnalizadorAbierto::EliminaOtorgantesDuplicados() {
-    analizador::EliminaOtorgantesDuplicados(OtorgantesEncontrados, Otorgantes);
+    Otorgantes = UneOtorgantesDuplicados(OtorgantesEncontrados);
 }
+
+namespace {
+
+// The parties chosen in the review, each with the origins that its name had before it.
+TListaOtorgantes ConSusOrigenes(ListaTextos<TROtorgante> elegidos, const TListaOtorgantes& antes) {
+    TListaOtorgantes lista;
+    for (const auto& linea : elegidos) {
+        TOrigenes origenes;
+        for (std::size_t i = 0; i < antes.Lista.Cuenta(); ++i)
+            if (antes.Lista[i].Texto == linea.Texto) origenes = antes.Origenes[i];
+        lista.Anade({*linea.Objeto, std::move(origenes)});
+    }
+    return lista;
+}
+
+}  // namespace
 
 bool TClassAnalizadorAbierto::ListaConceptosPreseleccionados() {
     const std::string xml = Documento().VariableValor("XML");
@@ -154,7 +176,7 @@ bool TClassAnalizadorAbierto::ListaConceptosPreseleccionados() {
     dialogo.RecogeListaConceptosValidos(ConceptosValidos);
     ListaTextos<TROtorgante> elegidos;
     dialogo.RecogeListaOtorgantesValidos(elegidos);
-    Otorgantes.Sustituye(std::move(elegidos));
+    Otorgantes = ConSusOrigenes(std::move(elegidos), Otorgantes);
     return true;
 }
 

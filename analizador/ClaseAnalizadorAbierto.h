@@ -15,6 +15,13 @@
 
 namespace analizador {
 
+// Where each loan fact was read.
+struct TOrigenOperacion {
+    std::vector<TOrigen> Plazos;  // one for each term
+    std::vector<TOrigen> TAEs;    // one for each rate
+    std::optional<TOrigen> TipoInteres;
+};
+
 // The session through which a host program analyses the deed that is open in the word processor: it makes one, calls
 // Analiza and reads the results. It owns every list and record it fills; the host only reads them. It may analyse any
 // number of times: each analysis first empties the results of the one before.
@@ -53,6 +60,7 @@ class TClassAnalizadorAbierto {
     ListaTextos<TRConcepto> ConceptosValidos;  // accepted in the review
     std::vector<std::string> Fincas;
     TClassOperacion Operacion;
+    TOrigenOperacion OrigenOperacion;
     int FinDocumento = 0;
     TClassParrafoCabecera Cabecera;
 
@@ -125,6 +133,10 @@ class TClassAnalizadorAbierto {
     void DesglosaParrafoComparecientes(std::string_view parrafo, int numero);
     void DesglosaParrafoRepresentacion(std::string_view parrafo, int numero);
     void DesglosaParrafoParteDeudora(std::string_view parrafo, int numero);
+
+    // Each takes the text of the recitals, as the word processor gives it; the section must be selected.
+    void DesglosaIntervaloTestamento(std::string_view texto, TROtorgante& otorgante);
+    void DesglosaIntervaloPrestamo(std::string_view texto, TClassOperacion& operacion);
 
   private:
     // The active document; ErrorWord when there is none.

@@ -7,6 +7,21 @@
 
 namespace analizador {
 
+namespace {
+
+constexpr int EN_REPRESENTACION_DE = 1;
+constexpr int INTI_REPRESENTANTE = 16;
+constexpr int SIN_INTERVENCION = 99;
+
+// The origins of a party that stands in the list.
+TOrigenes& OrigenesDe(TListaOtorgantes& lista, const TROtorgante& otorgante) {
+    std::size_t i = 0;
+    while (lista.Lista[i].Objeto.get() != &otorgante) ++i;
+    return lista.Origenes[i];
+}
+
+}  // namespace
+
 void TClassAnalizadorAbierto::DesglosaParrafoComparecientes(std::string_view texto, int numero) {
     TClassParrafoCompareciente parrafo(texto, numero);
     parrafo.Desglosa();
@@ -16,15 +31,13 @@ void TClassAnalizadorAbierto::DesglosaParrafoComparecientes(std::string_view tex
 void TClassAnalizadorAbierto::DesglosaParrafoRepresentacion(std::string_view texto, int numero) {
     TClassParrafoRepresentacion parrafo(texto, numero);
     parrafo.Desglosa();
-    // The one who acts for another was named before, as a rule; looked up before the paragraph adds anybody.
+    // The one who acts for another was named before, as a rule: looked up before the paragraph adds anybody.
     TROtorgante* const representante = Otorgante(parrafo.Representante, OtorgantesEncontrados.Lista);
     parrafo.RellenaListaOtorgantes(OtorgantesEncontrados);
     if (representante == nullptr) return;
-    constexpr int EN_REPRESENTACION_DE = 1;
-    constexpr int INTI_REPRESENTANTE = 16;
     representante->IntervencionVRK = EN_REPRESENTACION_DE;
     representante->IntervencionINTI = INTI_REPRESENTANTE;
-    auto& origenes = OtorgantesEncontrados.OrigenesDe(*representante);
+    TOrigenes& origenes = OrigenesDe(OtorgantesEncontrados, *representante);
     origenes["IntervencionINTI"] = origenes["IntervencionVRK"] = {numero, parrafo.Personas.front().Donde};
 }
 
@@ -35,7 +48,6 @@ void TClassAnalizadorAbierto::DesglosaParrafoParteDeudora(std::string_view texto
 }
 
 void TClassAnalizadorAbierto::RecorreParrafoTransmision() {
-    constexpr int SIN_INTERVENCION = 99;
     const TIntervalo intervalo = MarcadorTransmision->Intervalo;
     const std::string texto = TraduceCaracteresExtranosDeWord(Documento().GetTexto(intervalo));
     const TPosicionesPorParrafo posiciones(texto, Documento().GetNumeroParrafo(intervalo.Inicio), 0);
@@ -47,6 +59,42 @@ void TClassAnalizadorAbierto::RecorreParrafoTransmision() {
         if (hallada.Donde.Longitud != 0)
             OtorgantesEncontrados.Origenes[i]["IntervencionINTI"] = posiciones.Origen(hallada.Donde);
     }
+}
+
+void TClassAnalizadorAbierto::AnalizaTestamento() {
+    if (OtorgantesEncontrados.Lista.Vacia() || !OtorgantesEncontrados.Lista[0].Objeto || !HayAlgunTipoTestamento()) return;
+    SeleccionaExponen();
+    // The testator is the first party found.
+    DesglosaIntervaloTestamento(Documento().GetTexto(MarcadorExponen->Intervalo), *OtorgantesEncontrados.Lista[0].Objeto);
+}
+
+void TClassAnalizadorAbierto::DesglosaIntervaloTestamento(std::string_view texto, TROtorgante& otorgante) {
+    TClassIntervaloTestamento intervalo(texto, otorgante);
+    intervalo.Desglosa();
+    const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo);
+    TOrigenes& origenes = OrigenesDe(OtorgantesEncontrados, otorgante);
+    origenes.erase("IntervencionINTI");
+    for (const auto& [campo, tramo] : intervalo.Tramos) {
+        origenes.erase(campo);
+        if (tramo.Longitud != 0) origenes[campo] = posiciones.Origen(tramo);
+    }
+}
+
+void TClassAnalizadorAbierto::AnalizaPrestamo() {
+    if (!HayAlgunTipoPrestamo()) return;
+    SeleccionaExponen();
+    DesglosaIntervaloPrestamo(Documento().GetTexto(MarcadorExponen->Intervalo), Operacion);
+}
+
+void TClassAnalizadorAbierto::DesglosaIntervaloPrestamo(std::string_view texto, TClassOperacion& operacion) {
+    TClassIntervaloPrestamo intervalo(texto, operacion);
+    intervalo.Desglosa();
+    const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo);
+    for (const Tramo& tramo : intervalo.TramosPlazos) OrigenOperacion.Plazos.push_back(posiciones.Origen(tramo));
+    for (const Tramo& tramo : intervalo.TramosTAEs) OrigenOperacion.TAEs.push_back(posiciones.Origen(tramo));
+    OrigenOperacion.TipoInteres.reset();
+    if (intervalo.TramoTipoInteres.Longitud != 0)
+        OrigenOperacion.TipoInteres = posiciones.Origen(intervalo.TramoTipoInteres);
 }
 
 }  // namespace analizador

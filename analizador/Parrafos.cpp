@@ -55,4 +55,19 @@ TOrigen TPosicionesPorParrafo::Origen(Tramo tramo) const {
     return {primerParrafo_ + static_cast<int>(parrafo), {primera, Llanos(tramo.Primera, tramo.Primera + tramo.Longitud)}};
 }
 
+TPosicionesPorParrafo PosicionesDeSeccion(const TWordDocumentoCustom& documento, TIntervalo intervalo) {
+    constexpr char MARCA_DE_CELDA = 7;
+    const std::string texto = documento.GetTexto(intervalo);
+    const std::string primero = documento.GetParrafos({intervalo.Inicio, intervalo.Inicio}).front();
+    // How much of its first paragraph the stretch holds; one without a line end stops before the paragraph's own.
+    std::size_t tomado = texto.find('\r') + 1;
+    if (tomado == 0)
+        tomado = texto.size() + 1;
+    else if (tomado < texto.size() && texto[tomado] == MARCA_DE_CELDA)
+        ++tomado;
+    const std::size_t crudo = primero.size() - std::min(primero.size(), tomado);
+    const std::size_t llano = TraduceCaracteresExtranosDeWord(primero.substr(0, crudo)).size();
+    return {texto, documento.GetNumeroParrafo(intervalo.Inicio), llano};
+}
+
 }  // namespace analizador

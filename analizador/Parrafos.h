@@ -18,6 +18,11 @@ struct TParrafo {
 // The paragraphs that a stretch of the document touches.
 [[nodiscard]] std::vector<TParrafo> ParrafosDe(const TWordDocumentoCustom& documento, TIntervalo intervalo);
 
+class TPosicionesPorParrafo;
+
+// For positions in the text of a stretch of the document, which may begin inside a paragraph.
+[[nodiscard]] TPosicionesPorParrafo PosicionesDeSeccion(const TWordDocumentoCustom& documento, TIntervalo intervalo);
+
 // Tells of a position in a text of many paragraphs in which paragraph of the document it stands, and where in that
 // paragraph's plain text.
 class TPosicionesPorParrafo {

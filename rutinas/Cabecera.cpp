@@ -7,6 +7,7 @@
 #include "plataforma/Ruttb.h"
 #include "rutinas/RutAnalizador.h"
 #include "rutinas/TextoSin.h"
+#include "rutinas/Tratamiento.h"
 
 namespace analizador {
 
@@ -83,13 +84,6 @@ TLugarFecha BuscaLugarFecha(std::string_view parrafo) {
 }
 
 namespace {
-
-std::string_view SinTratamientoInicial(std::string_view nombre) {
-    const TTratamiento tratamiento = BuscaTratamiento(nombre);
-    if (tratamiento.Posicion != 1) return nombre;
-    return StrRight(nombre,
-                    static_cast<int>(nombre.size()) - static_cast<int>(tratamiento.Tratamiento.size()) - 1);
-}
 
 // The office's notaries: its list, or the single one.
 std::vector<std::string> NotariosDeLaOficina() {

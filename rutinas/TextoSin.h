@@ -34,6 +34,7 @@ class TTextoSin {
 
     // The same for a view into Texto().
     [[nodiscard]] Tramo Original(std::string_view parte) const {
+        if (parte.empty()) return {};
         return Original(Tramo{static_cast<std::size_t>(parte.data() - texto_.data()), parte.size()});
     }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "analizador/ConstAnalizador.h"
+#include "plataforma/Rnumcad.h"
 #include "plataforma/Rut.h"
 
 namespace analizador {
@@ -73,6 +74,13 @@ TTratamiento TBuscadorTratamientos::Desde(std::size_t desde) const {
 TTratamiento BuscaTratamiento(std::string_view texto) {
     const std::string plegado = Pliega(texto);
     return TBuscadorTratamientos(plegado).Desde(0);
+}
+
+std::string_view SinTratamientoInicial(std::string_view nombre) {
+    const TTratamiento tratamiento = BuscaTratamiento(nombre);
+    if (tratamiento.Posicion != 1) return nombre;
+    return StrRight(nombre,
+                    static_cast<int>(nombre.size()) - static_cast<int>(tratamiento.Tratamiento.size()) - 1);
 }
 
 }  // namespace analizador

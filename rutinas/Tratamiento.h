@@ -41,4 +41,7 @@ class TBuscadorTratamientos {
     std::vector<TForma> formas_;
 };
 
+// A name without the form of address at its start and the one character after it. A view into `nombre`.
+[[nodiscard]] std::string_view SinTratamientoInicial(std::string_view nombre);
+
 }  // namespace analizador
