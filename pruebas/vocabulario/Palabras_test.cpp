@@ -105,20 +105,20 @@ TEST(Palabras, NoEstanLasTrampas) {
             << Sitio(Del(caso), caso.Seccion, caso.Entrada);
 }
 
+constexpr std::string_view MARZO = "MARÇ"_ansi;
+
 TEST(Palabras, LosMesesSonTrecePorSuOrden) {
     const std::vector<std::string> castellano = {
         "ENERO",  "FEBRERO",    "MARZO",   "ABRIL",     "MAYO",      "JUNIO",    "JULIO",
         "AGOSTO", "SEPTIEMBRE", "OCTUBRE", "NOVIEMBRE", "DICIEMBRE", "SETIEMBRE"};
-    const std::vector<std::string> catalan = {"GENER",    "FEBRER",   std::string("MARÇ"_ansi),
-                                              "ABRIL",    "MAIG",     "JUNY",
-                                              "JULIOL",   "AGOST",    "SETEMBRE",
-                                              "OCTUBRE",  "NOVEMBRE", "DESEMBRE",
-                                              "SEPTEMBRE"};
+    const std::vector<std::string> catalan = {
+        "GENER", "FEBRER",   std::string(MARZO), "ABRIL",    "MAIG",     "JUNY",     "JULIOL",
+        "AGOST", "SETEMBRE", "OCTUBRE",          "NOVEMBRE", "DESEMBRE", "SEPTEMBRE"};
     EXPECT_EQ(Castellano().Ini.Palabras("MESES"), castellano);
     EXPECT_EQ(Catalan().Ini.Palabras("MESES"), catalan);
 }
 
-// The three forms in which a heading is met: "COMPARECEN", "---- COMPARECEN" and "----COMPARECEN".
+// A heading is met bare or filled out: "COMPARECEN", "---- COMPARECEN", "----COMPARECEN", "==== COMPARECEN".
 class TitulosRellenos : public testing::TestWithParam<Caso> {};
 INSTANTIATE_TEST_SUITE_P(Palabras, TitulosRellenos,
                          testing::Values(Caso{false, "COMPARECIENTES", "COMPARECEN"},
@@ -130,16 +130,36 @@ INSTANTIATE_TEST_SUITE_P(Palabras, TitulosRellenos,
                                          Caso{true, "EXPONEN", "EXPOSEN"}));
 
 // A heading counts when some entry begins within the first five characters of its paragraph.
-TEST_P(TitulosRellenos, CadaTiraDeHastaTreintaYTresGuionesSeReconoce) {
-    const auto& lista = Del(GetParam()).Ini.Palabras(GetParam().Seccion);
-    for (std::size_t n = 0; n <= 33; ++n)
-        for (const std::string separacion : {"", " "}) {
-            const std::string parrafo = std::string(n, '-') + separacion + std::string(GetParam().Entrada);
-            const auto hallada = std::any_of(lista.begin(), lista.end(), [&](const std::string& entrada) {
-                return parrafo.ends_with(entrada) && parrafo.size() - entrada.size() < 5;
-            });
-            EXPECT_TRUE(hallada) << Sitio(Del(GetParam()), GetParam().Seccion, parrafo);
-        }
+void EsperaReconocido(const std::string& relleno) {
+    const auto& caso = TitulosRellenos::GetParam();
+    const auto& lista = Del(caso).Ini.Palabras(caso.Seccion);
+    const std::string parrafo = relleno + std::string(caso.Entrada);
+    const auto hallada = std::any_of(lista.begin(), lista.end(), [&](const std::string& entrada) {
+        return parrafo.ends_with(entrada) && parrafo.size() - entrada.size() < 5;
+    });
+    EXPECT_TRUE(hallada) << Sitio(Del(caso), caso.Seccion, parrafo);
+}
+
+TEST_P(TitulosRellenos, SeReconoceConHastaTreintaYTresGuiones) {
+    for (std::size_t n = 0; n <= 33; ++n) {
+        EsperaReconocido(std::string(n, '-'));
+        EsperaReconocido(std::string(n, '-') + " ");
+    }
+}
+
+TEST_P(TitulosRellenos, SeReconoceConHastaVeintitresSignosDeOtraClase) {
+    for (const char signo : {'=', '*'})
+        for (std::size_t n = 0; n <= 23; ++n) EsperaReconocido(std::string(n, signo) + " ");
+}
+
+// The transfer is searched in the whole document, without whole words: V E N E N is in I N T E R V E N E N.
+TEST(Palabras, NingunaDeTransmisionEstaEnUnTitulo) {
+    for (const auto& vocabulario : Vocabularios())
+        for (const auto titulos : {"COMPARECIENTES", "INTERVINIENTES", "EXPONEN"})
+            for (const auto& titulo : vocabulario.Ini.Palabras(titulos))
+                for (const auto& entrada : vocabulario.Ini.Palabras("TRANSMISION"))
+                    EXPECT_EQ((" " + titulo + " ").find(entrada), std::string::npos)
+                        << Sitio(vocabulario, "TRANSMISION", entrada) << " está en " << Utf8DeAnsi(titulo);
 }
 
 using PalabrasNumero = EnCadaVocabulario;
