@@ -1,5 +1,6 @@
 #include "programas/analiza/AnalisisFichero.h"
 
+#include <algorithm>
 #include <new>
 #include <vector>
 
@@ -15,16 +16,26 @@ namespace {
 // The bookmarks of the sections that this analysis found, which are all that saving adds.
 std::vector<TMarcador> MarcadoresDeSecciones(const TClassAnalizadorAbierto& sesion) {
     std::vector<TMarcador> marcadores;
-    for (const auto& marcador : {sesion.MarcadorCabecera, sesion.MarcadorComparecientes, sesion.MarcadorIntervinientes,
-                                 sesion.MarcadorExponen, sesion.MarcadorTransmision, sesion.MarcadorParteDeudora})
+    for (const auto& marcador :
+         {sesion.MarcadorCabecera, sesion.MarcadorComparecientes, sesion.MarcadorIntervinientes,
+          sesion.MarcadorExponen, sesion.MarcadorTransmision, sesion.MarcadorParteDeudora})
         if (marcador) marcadores.push_back(*marcador);
     return marcadores;
+}
+
+// A message is one line, whatever the file is called.
+std::string EnUnaLinea(std::string texto) {
+    std::ranges::replace_if(
+        texto, [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
+    return texto;
 }
 
 }  // namespace
 
 TAnalisisFichero::TAnalisisFichero(const std::filesystem::path& fichero, const TOpcionesAnalisis& opciones) {
-    const auto rechaza = [&](const std::string& causa) { FError = fichero.string() + ": " + causa; };
+    const auto rechaza = [&](const std::string& causa) {
+        FError = EnUnaLinea(fichero.string() + ": " + causa);
+    };
     try {
         Analiza(fichero, opciones);
     } catch (const ErrorDocumento& error) {
@@ -36,7 +47,7 @@ TAnalisisFichero::TAnalisisFichero(const std::filesystem::path& fichero, const T
     } catch (const std::bad_alloc&) {
         rechaza("no hay memoria para analizarlo");
     } catch (const std::exception& error) {
-        rechaza(error.what());
+        rechaza("fallo inesperado (" + std::string(error.what()) + ")");
     }
 }
 
@@ -46,7 +57,8 @@ void TAnalisisFichero::Analiza(const std::filesystem::path& fichero, const TOpci
     FSesion = std::make_unique<TClassAnalizadorAbierto>(nullptr, FAplicacion.get());
     constexpr bool SIN_REVISION = true;  // nobody is there to be asked for the notary
     FSesion->Analiza(SIN_REVISION);
-    if (opciones.Salida) docx.Guarda(MarcadoresDeSecciones(*FSesion), *opciones.Salida, {.Forzar = opciones.Forzar});
+    if (opciones.Salida)
+        docx.Guarda(MarcadoresDeSecciones(*FSesion), *opciones.Salida, {.Forzar = opciones.Forzar});
 }
 
 }  // namespace analizador

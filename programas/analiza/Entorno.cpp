@@ -1,5 +1,7 @@
 #include "programas/analiza/Entorno.h"
 
+#include <system_error>
+
 #include "analizador/ConstAnalizador.h"
 #include "plataforma/Rficheros.h"
 
@@ -13,11 +15,24 @@ namespace fs = std::filesystem;
 fs::path CarpetaAplicacion() {
     const fs::path propia = RutaPrograma().parent_path();
     const fs::path instalada = propia.parent_path() / "share" / "analizador";
-    return !fs::exists(propia / "CONFIG") && fs::exists(instalada / "CONFIG") ? instalada : propia;
+    std::error_code error;
+    return !fs::exists(propia / "CONFIG", error) && fs::exists(instalada / "CONFIG", error) ? instalada
+                                                                                            : propia;
 }
 
 void ExigeCarpeta(const fs::path& carpeta) {
-    if (!fs::is_directory(carpeta)) throw ErrorConfiguracion(carpeta.string() + ": no existe esa carpeta");
+    std::error_code error;
+    if (fs::is_directory(carpeta, error)) return;
+    const bool esOtraCosa = fs::exists(carpeta, error);
+    throw ErrorConfiguracion(carpeta.string() +
+                             (esOtraCosa ? ": no es una carpeta" : ": no existe esa carpeta"));
+}
+
+// Without its words the analysis would find nothing and say nothing of it.
+void ExigeVocabulario(const fs::path& fichero) {
+    std::error_code error;
+    if (!fs::is_regular_file(fichero, error))
+        throw ErrorConfiguracion(fichero.string() + ": falta ese vocabulario");
 }
 
 TConfigIni LeeConfig(const std::optional<fs::path>& config) {
@@ -25,6 +40,8 @@ TConfigIni LeeConfig(const std::optional<fs::path>& config) {
     PonCarpetaAplicacion(aplicacion);
     if (config) PonCarpetaTokens(*config);
     ExigeCarpeta(Rutas().PATH_TOKEN_AP);
+    ExigeVocabulario(Rutas().CASTELLANO_INI);
+    ExigeVocabulario(Rutas().CATALAN_INI);
     return {Rutas().PATH_TOKEN_AP / "OFICINA.INI", aplicacion};
 }
 

@@ -30,50 +30,76 @@ struct TOpciones {
 };
 
 void Declara(CLI::App& aplicacion, TOpciones& opciones) {
-    aplicacion.set_help_flag("--ayuda,--help,-h", "Muestra esta ayuda y termina");
-    aplicacion.set_version_flag("--version", "analiza " ANALIZADOR_VERSION, "Muestra la versión y termina");
-    aplicacion.get_formatter()->label("REQUIRED", "(obligatorio)");
-    aplicacion.get_formatter()->label("OPTIONS", "opciones");
     aplicacion.get_formatter()->label("Usage", "Uso");
-    aplicacion.get_formatter()->label("Options", "Opciones");
+    aplicacion.get_formatter()->label("OPTIONS", "opciones");
     aplicacion.get_formatter()->label("Positionals", "Ficheros");
-    aplicacion.get_formatter()->column_width(28);
-    aplicacion.add_option("FICHERO", opciones.Ficheros, "Escrituras que se analizan (.docx, .docm, .dotx)")
+    aplicacion.get_formatter()->column_width(24);
+    aplicacion.option_defaults()->group("Opciones")->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    aplicacion.set_help_flag("-h,--ayuda,--help", "Muestra esta ayuda y termina");
+    aplicacion.set_version_flag("--version", "analiza " ANALIZADOR_VERSION, "Muestra la versión y termina");
+    aplicacion
+        .add_option("FICHERO", opciones.Ficheros, "Escrituras que se analizan (.docx, .docm, .dotx, .dotm)")
         ->required()
-        ->type_name("");
-    aplicacion.add_flag("--json", opciones.Json, "Escribe una línea de JSON por fichero en lugar del informe");
-    aplicacion.add_option("--config", opciones.Config, "Carpeta de los vocabularios y de OFICINA.INI")->type_name("CARPETA");
-    aplicacion.add_option("--tablas", opciones.Tablas, "Carpeta de las tablas de referencia")->type_name("CARPETA");
-    auto* const guarda =
-        aplicacion.add_flag("--guarda", opciones.Guarda, "Guarda en cada fichero los marcadores de sus secciones");
-    aplicacion.add_option("--salida", opciones.Salida, "Guarda el documento con los marcadores en otro fichero")
-        ->type_name("FICHERO")
+        ->multi_option_policy(CLI::MultiOptionPolicy::Throw)
+        ->option_text("... (obligatorio)");
+    aplicacion.add_flag("--json", opciones.Json,
+                        "Escribe una línea de JSON por fichero en lugar del informe");
+    aplicacion.add_option("--config", opciones.Config, "Carpeta de los vocabularios y de OFICINA.INI")
+        ->option_text("CARPETA");
+    aplicacion.add_option("--tablas", opciones.Tablas, "Carpeta de las tablas de referencia")
+        ->option_text("CARPETA");
+    auto* const guarda = aplicacion.add_flag("--guarda", opciones.Guarda,
+                                             "Guarda en cada fichero los marcadores de sus secciones");
+    aplicacion
+        .add_option("--salida", opciones.Salida, "Guarda el documento con los marcadores en otro fichero")
+        ->option_text("FICHERO")
         ->excludes(guarda);
-    aplicacion.add_flag("--forzar", opciones.Forzar, "Guarda aunque otro programa tenga abierto el documento");
+    aplicacion.add_flag(
+        "--forzar", opciones.Forzar,
+        "Con --guarda o --salida: guarda aunque otro programa tenga abierto el documento, o aunque se "
+        "rompa su firma");
 }
 
-// What CLI11 says of a wrong call, in the user's language.
-std::string CausaDeMalUso(const CLI::ParseError& error) {
-    if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return "falta el fichero que se quiere analizar";
-    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) return "opción desconocida";
-    if (dynamic_cast<const CLI::ExcludesError*>(&error) != nullptr) return "--guarda y --salida no van juntas";
-    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return "a una opción le falta su valor";
-    return "no se entienden las opciones";
+// The option that the parser's message begins with, or "una opción".
+std::string OpcionDe(const CLI::ParseError& error) {
+    const std::string mensaje = error.what();
+    return mensaje.starts_with("--") ? mensaje.substr(0, mensaje.find_first_of(": ")) : "una opción";
+}
+
+// What is wrong with the call, in the user's language.
+std::string CausaDeMalUso(const CLI::App& aplicacion, const CLI::ParseError& error) {
+    if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
+        return "falta el fichero que se quiere analizar";
+    if (dynamic_cast<const CLI::ExcludesError*>(&error) != nullptr)
+        return "--guarda y --salida no van juntas";
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr)
+        return "a " + OpcionDe(error) + " le falta su valor";
+    if (const auto sobran = aplicacion.remaining(); !sobran.empty())
+        return "no se conoce la opción " + sobran.front();
+    return "no se entiende " + OpcionDe(error);
+}
+
+// What was printed before comes first where both go to one place.
+void Avisa(const std::string& texto) {
+    std::fflush(stdout);
+    std::fprintf(stderr, "analiza: %s\n", texto.c_str());
 }
 
 int MalUso(const std::string& causa) {
-    std::fprintf(stderr, "analiza: %s (con --ayuda se ven las opciones)\n", causa.c_str());
+    Avisa(causa + " (con --ayuda se ven las opciones)");
     return MAL_USO;
 }
 
-void Escribe(const std::string& texto) { std::fwrite(texto.data(), 1, texto.size(), stdout); }
+void Escribe(const std::string& texto) {
+    std::fwrite(texto.data(), 1, texto.size(), stdout);
+}
 
 // False when the file could not be analysed.
 bool Procesa(const fs::path& fichero, const TOpciones& opciones) {
     TOpcionesAnalisis pedido{opciones.Salida, opciones.Forzar};
     if (opciones.Guarda) pedido.Salida = fichero;
     const TAnalisisFichero analisis(fichero, pedido);
-    if (!analisis.Error().empty()) std::fprintf(stderr, "analiza: %s\n", analisis.Error().c_str());
+    if (!analisis.Error().empty()) Avisa(analisis.Error());
     if (opciones.Json) {
         Escribe(LineaJson(fichero, analisis) + "\n");
     } else if (analisis.Error().empty()) {
@@ -85,7 +111,8 @@ bool Procesa(const fs::path& fichero, const TOpciones& opciones) {
 }
 
 int Ejecuta(const TOpciones& opciones) {
-    if (opciones.Salida && opciones.Ficheros.size() > 1) return MalUso("con --salida se analiza un solo fichero");
+    if (opciones.Salida && opciones.Ficheros.size() > 1)
+        return MalUso("con --salida se analiza un solo fichero");
     try {
         const TEntorno entorno(opciones.Config, opciones.Tablas);
         int codigo = TODO_BIEN;
@@ -93,7 +120,8 @@ int Ejecuta(const TOpciones& opciones) {
             if (!Procesa(fichero, opciones)) codigo = ALGUNO_FALLO;
         return codigo;
     } catch (const ErrorConfiguracion& error) {
-        return MalUso(error.what());
+        Avisa(error.what());
+        return MAL_USO;
     }
 }
 
@@ -108,11 +136,11 @@ int main(int argc, char** argv) {
     } catch (const CLI::Success& pedido) {
         return aplicacion.exit(pedido);
     } catch (const CLI::ParseError& error) {
-        return MalUso(CausaDeMalUso(error));
+        return MalUso(CausaDeMalUso(aplicacion, error));
     }
     const int codigo = Ejecuta(opciones);
-    if (std::fflush(stdout) != 0) {
-        std::fprintf(stderr, "analiza: no se puede escribir la salida\n");
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        Avisa("no se puede escribir la salida");
         return ALGUNO_FALLO;
     }
     return codigo;
