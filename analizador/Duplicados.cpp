@@ -43,30 +43,22 @@ TOrigenes UneOrigenes(const TROtorgante& propio, const TOrigenes& propios, const
     return unidos;
 }
 
-std::size_t PosicionDe(const TROtorgante* otorgante, const ListaTextos<TROtorgante>& lista) {
-    std::size_t i = 0;
-    while (lista[i].Objeto.get() != otorgante) ++i;
-    return i;
-}
-
 }  // namespace
 
-TListaOtorgantes UneOtorgantesDuplicados(const TListaOtorgantes& encontrados) {
-    TListaOtorgantes unidos;
+void EliminaOtorgantesDuplicados(const TListaOtorgantes& encontrados, TListaOtorgantes& otorgantes) {
     for (std::size_t i = 0; i < encontrados.Lista.Cuenta(); ++i) {
         const TROtorgante* const hallado = encontrados.Lista[i].Objeto.get();
         if (hallado == nullptr) continue;
         const TOrigenes& origenes = encontrados.Origenes[i];
-        TROtorgante* const conocido = Otorgante(hallado->NombreOtorgante(), unidos.Lista);
+        TROtorgante* const conocido = Otorgante(hallado->NombreOtorgante(), otorgantes.Lista);
         if (conocido == nullptr) {
-            unidos.Anade({*hallado, origenes});
+            otorgantes.Anade({*hallado, origenes});
             continue;
         }
-        TOrigenes& suyos = unidos.Origenes[PosicionDe(conocido, unidos.Lista)];
+        TOrigenes& suyos = otorgantes.OrigenesDe(*conocido);
         suyos = UneOrigenes(*conocido, suyos, origenes);
         conocido->ActualizaValores(*hallado);
     }
-    return unidos;
 }
 
 }  // namespace analizador

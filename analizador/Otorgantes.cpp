@@ -13,13 +13,6 @@ constexpr int EN_REPRESENTACION_DE = 1;
 constexpr int INTI_REPRESENTANTE = 16;
 constexpr int SIN_INTERVENCION = 99;
 
-// The origins of a party that stands in the list.
-TOrigenes& OrigenesDe(TListaOtorgantes& lista, const TROtorgante& otorgante) {
-    std::size_t i = 0;
-    while (lista.Lista[i].Objeto.get() != &otorgante) ++i;
-    return lista.Origenes[i];
-}
-
 }  // namespace
 
 void TClassAnalizadorAbierto::DesglosaParrafoComparecientes(std::string_view texto, int numero) {
@@ -32,13 +25,13 @@ void TClassAnalizadorAbierto::DesglosaParrafoRepresentacion(std::string_view tex
     TClassParrafoRepresentacion parrafo(texto, numero);
     parrafo.Desglosa();
     // The one who acts for another was named before, as a rule: looked up before the paragraph adds anybody.
-    TROtorgante* const representante = Otorgante(parrafo.Representante, OtorgantesEncontrados.Lista);
+    TROtorgante* const representante = Otorgante(parrafo.Representante.Valor, OtorgantesEncontrados.Lista);
     parrafo.RellenaListaOtorgantes(OtorgantesEncontrados);
     if (representante == nullptr) return;
     representante->IntervencionVRK = EN_REPRESENTACION_DE;
     representante->IntervencionINTI = INTI_REPRESENTANTE;
-    TOrigenes& origenes = OrigenesDe(OtorgantesEncontrados, *representante);
-    origenes["IntervencionINTI"] = origenes["IntervencionVRK"] = {numero, parrafo.Personas.front().Donde};
+    TOrigenes& origenes = OtorgantesEncontrados.OrigenesDe(*representante);
+    origenes["IntervencionINTI"] = origenes["IntervencionVRK"] = {numero, parrafo.Representante.Donde};
 }
 
 void TClassAnalizadorAbierto::DesglosaParrafoParteDeudora(std::string_view texto, int numero) {
@@ -72,7 +65,7 @@ void TClassAnalizadorAbierto::DesglosaIntervaloTestamento(std::string_view texto
     TClassIntervaloTestamento intervalo(texto, otorgante);
     intervalo.Desglosa();
     const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo);
-    TOrigenes& origenes = OrigenesDe(OtorgantesEncontrados, otorgante);
+    TOrigenes& origenes = OtorgantesEncontrados.OrigenesDe(otorgante);
     origenes.erase("IntervencionINTI");
     for (const auto& [campo, tramo] : intervalo.Tramos) {
         origenes.erase(campo);

@@ -209,8 +209,10 @@ TOtorganteHallado TClassParrafoConSociedad::ConSociedad(const TSociedadHallada& 
 
 void TClassParrafoRepresentacion::Desglosa() {
     TClassParrafoConSociedad::Desglosa();
-    Representante.clear();
-    if (!Personas.empty()) Representante = Recorta(Personas.front().Valor.NombreCompleto());
+    Representante = {};
+    if (Personas.empty()) return;
+    const auto& [persona, nombre] = Personas.front();
+    Representante = {std::string(Recorta(persona.NombreCompleto())), nombre};
 }
 
 void TClassParrafoRepresentacion::MarcaIntervencion(TROtorgante& otorgante, TOrigenes& /*origenes*/) const {

@@ -92,7 +92,8 @@ class TClassParrafoRepresentacion : public TClassParrafoConSociedad {
     using TClassParrafoConSociedad::TClassParrafoConSociedad;
     void Desglosa() override;
 
-    std::string Representante;  // full name of who acts for the other; empty when no person was found
+    // Full name of who acts for the other, the first person of the paragraph; empty when no person was found.
+    THallazgo<std::string> Representante;
 
   private:
     void MarcaIntervencion(TROtorgante& otorgante, TOrigenes& origenes) const override;

@@ -23,6 +23,13 @@ struct TListaOtorgantes {
     // Files a party under its NombreOtorgante, after those that are there.
     void Anade(TOtorganteHallado hallado);
     void Limpia();
+
+    // The origins of a party of this list, which must be one of Lista's own records.
+    [[nodiscard]] TOrigenes& OrigenesDe(const TROtorgante& otorgante);
+
+    // Puts other records in the place of these, such as the user reviewed them. A field that still holds what
+    // the party of the same name (else of the same document) held here keeps its origin.
+    void Sustituye(ListaTextos<TROtorgante> otros);
 };
 
 }  // namespace analizador

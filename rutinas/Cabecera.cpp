@@ -19,6 +19,13 @@ std::string_view TrasLaFrase(std::string_view texto, const TToken& token) {
                     static_cast<int>(texto.size()) - token.Posicion - static_cast<int>(token.Entrada.size()));
 }
 
+// The number without the signs that stand around it.
+std::string_view SinSignos(std::string_view numero) {
+    constexpr std::string_view SIGNOS = " \n:.-";
+    numero.remove_prefix(std::min(numero.find_first_not_of(SIGNOS), numero.size()));
+    return numero.substr(0, numero.find_last_not_of(SIGNOS) + 1);
+}
+
 }  // namespace
 
 int PosicionPunto(std::string_view texto) {
@@ -40,7 +47,7 @@ THallazgo<int> BuscaNumeroProtocolo(std::string_view parrafo) {
     std::string numero = QuitaCaracteres(resto, ":.");
     std::replace(numero.begin(), numero.end(), '-', ' ');
     const int valor = ConvierteNumeroDeCadenaAEnteroNvx(Recorta(numero), EsCatalan());
-    return valor == 0 ? THallazgo<int>{} : THallazgo<int>{valor, limpio.Original(resto)};
+    return valor == 0 ? THallazgo<int>{} : THallazgo<int>{valor, limpio.Original(SinSignos(resto))};
 }
 
 namespace {

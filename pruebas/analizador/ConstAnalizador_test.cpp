@@ -19,9 +19,13 @@ TEST(ConstAnalizador, Sexos) {
 }
 
 TEST(ConstAnalizador, EstadosCivilesEnElOrdenEnQueSePrueban) {
-    const std::vector<std::pair<std::string_view, int>> filas = {
-        {"CASADO EN SEGUNDAS NUPCIAS", 2}, {"DIVORCIADO", 3}, {"SOLTERO", 5}, {"VIUDO", 6},
-        {"PAREJA DE HECHO", 7},            {"SEPARADO", 4},   {"CASADO", 1}};
+    const std::vector<std::pair<std::string_view, int>> filas = {{"CASADO EN SEGUNDAS NUPCIAS", 2},
+                                                                 {"DIVORCIADO", 3},
+                                                                 {"SOLTERO", 5},
+                                                                 {"VIUDO", 6},
+                                                                 {"PAREJA DE HECHO", 7},
+                                                                 {"SEPARADO", 4},
+                                                                 {"CASADO", 1}};
     ASSERT_EQ(CONST_SECCION_ESTADO_CIVIl.size(), filas.size());
     ASSERT_EQ(CONST_ESTADO_CIVIL.size(), filas.size());
     for (std::size_t i = 0; i < filas.size(); ++i) {
@@ -43,9 +47,9 @@ TEST(ConstAnalizador, IndicesDeInteresDesdeElDos) {
 
 TEST(ConstAnalizador, TiposDeVia) {
     const std::vector<std::pair<std::string_view, std::string_view>> filas = {
-        {"CALLE", "CL"}, {"PLAZA", "PZ"}, {"AVENIDA", "AV"},  {"TRAVESIA", "TR"}, {"URBANIZACION", "UR"},
-        {"RONDA", "RD"}, {"PASEO", "PS"}, {"GLORIETA", "GL"}, {"FINCA", "FN"},    {"CARRETERA", "CR"},
-        {"COLONIA", "CN"}, {"RAMBLA", "RB"}};
+        {"CALLE", "CL"},        {"PLAZA", "PZ"},     {"AVENIDA", "AV"}, {"TRAVESIA", "TR"},
+        {"URBANIZACION", "UR"}, {"RONDA", "RD"},     {"PASEO", "PS"},   {"GLORIETA", "GL"},
+        {"FINCA", "FN"},        {"CARRETERA", "CR"}, {"COLONIA", "CN"}, {"RAMBLA", "RB"}};
     ASSERT_EQ(CONST_SECCION_TIPO_VIA.size(), filas.size());
     ASSERT_EQ(CONST_TIPO_VIA.size(), filas.size());
     for (std::size_t i = 0; i < filas.size(); ++i) {
@@ -55,17 +59,16 @@ TEST(ConstAnalizador, TiposDeVia) {
 }
 
 TEST(ConstAnalizador, IntervencionesDesdeElCero) {
-    const std::vector<std::pair<int, std::string_view>> filas = {
-        {0, "0. En su nombre"},
-        {1, "1. En representación de"_ansi},
-        {2, "2. Por sí y en representación de"_ansi},
-        {3, "3. Mandatario verbal"},
-        {4, "4. Los dos en representación de"_ansi},
-        {5, "5. Representado"},
-        {6, "6. Por sí y mandatario verbal"_ansi},
-        {-1, ""},
-        {7, ""},
-        {99, ""}};
+    const std::vector<std::pair<int, std::string_view>> filas = {{0, "0. En su nombre"},
+                                                                 {1, "1. En representación de"_ansi},
+                                                                 {2, "2. Por sí y en representación de"_ansi},
+                                                                 {3, "3. Mandatario verbal"},
+                                                                 {4, "4. Los dos en representación de"_ansi},
+                                                                 {5, "5. Representado"},
+                                                                 {6, "6. Por sí y mandatario verbal"_ansi},
+                                                                 {-1, ""},
+                                                                 {7, ""},
+                                                                 {99, ""}};
     for (const auto& [codigo, texto] : filas) EXPECT_EQ(TextoIntervencionVRK(codigo), texto) << codigo;
     EXPECT_EQ(CONST_TIPO_INTERVENCION_VRK.size(), 7U);
 }
@@ -101,8 +104,9 @@ TEST_F(RutasAnalizador, ElIdiomaEsElDelFicheroElegido) {
         std::filesystem::path Fichero;
         bool Castellano, Catalan;
     };
-    for (const auto& [fichero, castellano, catalan] : std::vector<Caso>{
-             {Rutas().CASTELLANO_INI, true, false}, {Rutas().CATALAN_INI, false, true}, {"OTRO.INI", false, false}}) {
+    for (const auto& [fichero, castellano, catalan] : std::vector<Caso>{{Rutas().CASTELLANO_INI, true, false},
+                                                                        {Rutas().CATALAN_INI, false, true},
+                                                                        {"OTRO.INI", false, false}}) {
         PonTOKENS_INI(fichero);
         EXPECT_EQ(TOKENS_INI(), fichero);
         EXPECT_EQ(EsCastellano(), castellano) << fichero;

@@ -19,13 +19,21 @@ TROtorgante Persona(std::string nombre, std::string apellidos) {
     return o;
 }
 
+TListaOtorgantes SinDuplicados(const TListaOtorgantes& encontrados) {
+    TListaOtorgantes otorgantes;
+    EliminaOtorgantesDuplicados(encontrados, otorgantes);
+    return otorgantes;
+}
+
 std::vector<std::string> Lineas(const TListaOtorgantes& lista) {
     std::vector<std::string> lineas;
     for (const auto& linea : lista.Lista) lineas.push_back(linea.Texto);
     return lineas;
 }
 
-TOrigen En(int parrafo, std::size_t primera = 1) { return {parrafo, {primera, 5}}; }
+TOrigen En(int parrafo, std::size_t primera = 1) {
+    return {parrafo, {primera, 5}};
+}
 
 TEST(Duplicados, QuienEsElMismo) {
     using TNombres = std::vector<std::pair<std::string, std::string>>;  // given name, surnames
@@ -36,7 +44,9 @@ TEST(Duplicados, QuienEsElMismo) {
     };
     const std::vector<Caso> casos = {
         {"none", {}, {}},
-        {"the same name three times", {{"JUAN", "GARCIA"}, {"JUAN", "GARCIA"}, {"JUAN", "GARCIA"}}, {"JUAN GARCIA"}},
+        {"the same name three times",
+         {{"JUAN", "GARCIA"}, {"JUAN", "GARCIA"}, {"JUAN", "GARCIA"}},
+         {"JUAN GARCIA"}},
         {"the shorter name first", {{"JUAN", "GARCIA"}, {"JUAN", "GARCIA LOPEZ"}}, {"JUAN GARCIA"}},
         {"the longer name first",
          {{"JUAN", "GARCIA LOPEZ"}, {"JUAN", "GARCIA"}},
@@ -46,12 +56,14 @@ TEST(Duplicados, QuienEsElMismo) {
          {{"", "BANCO SUR"}, {"", "INMOBILIARIA BANCO SUR, S.A."}},
          {"BANCO SUR"}},
         {"capitals count", {{"JUAN", "GARCIA"}, {"Juan", "Garcia"}}, {"JUAN GARCIA", "Juan Garcia"}},
-        {"a party without a name is nobody else's", {{"", ""}, {"", ""}, {"JUAN", "GIL"}}, {"", "", "JUAN GIL"}},
+        {"a party without a name is nobody else's",
+         {{"", ""}, {"", ""}, {"JUAN", "GIL"}},
+         {"", "", "JUAN GIL"}},
     };
     for (const auto& [que, nombres, lineas] : casos) {
         TListaOtorgantes encontrados;
         for (const auto& [nombre, apellidos] : nombres) encontrados.Anade({Persona(nombre, apellidos), {}});
-        EXPECT_EQ(Lineas(UneOtorgantesDuplicados(encontrados)), lineas) << que;
+        EXPECT_EQ(Lineas(SinDuplicados(encontrados)), lineas) << que;
     }
 }
 
@@ -64,7 +76,7 @@ TEST(Duplicados, NiElDocumentoNiElSexoLosDistinguen) {
     otro.Sexo = "M";
     encontrados.Anade({uno, {}});
     encontrados.Anade({otro, {}});
-    const auto unidos = UneOtorgantesDuplicados(encontrados);
+    const auto unidos = SinDuplicados(encontrados);
     ASSERT_EQ(unidos.Lista.Cuenta(), 1U);
     EXPECT_EQ(unidos.Lista[0].Objeto->NumDocumento, "12345678Z");
     EXPECT_EQ(unidos.Lista[0].Objeto->Sexo, "H");
@@ -77,7 +89,7 @@ TEST(Duplicados, DeVariosQueValenElPrimeroGuardado) {
     TROtorgante completo = Persona("JUAN", "GARCIA LOPEZ");
     completo.NumDocumento = "12345678Z";
     encontrados.Anade({completo, {}});
-    const auto unidos = UneOtorgantesDuplicados(encontrados);
+    const auto unidos = SinDuplicados(encontrados);
     ASSERT_EQ(Lineas(unidos), (std::vector<std::string>{"JUAN GARCIA L", "JUAN GARCIA"}));
     EXPECT_EQ(unidos.Lista[0].Objeto->NumDocumento, "12345678Z");
     EXPECT_EQ(unidos.Lista[1].Objeto->NumDocumento, "");
@@ -99,7 +111,7 @@ TEST(Duplicados, CadaMencionCompletaLaPrimeraYLaUltimaDecide) {
     TListaOtorgantes encontrados;
     for (const auto& o : {compareciente, representado, deudor}) encontrados.Anade({o, {}});
 
-    const auto unidos = UneOtorgantesDuplicados(encontrados);
+    const auto unidos = SinDuplicados(encontrados);
     ASSERT_EQ(unidos.Lista.Cuenta(), 1U);
     TROtorgante esperado = Persona("JUAN", "GARCIA");
     esperado.TipoDocumento = 1;
@@ -116,7 +128,7 @@ TEST(Duplicados, LaLineaConservaSuTexto) {
     TListaOtorgantes encontrados;
     encontrados.Anade({Persona("", "GARCIA"), {}});
     encontrados.Anade({Persona("JUAN", "GARCIA"), {}});
-    const auto unidos = UneOtorgantesDuplicados(encontrados);
+    const auto unidos = SinDuplicados(encontrados);
     ASSERT_EQ(Lineas(unidos), std::vector<std::string>{"GARCIA"});
     EXPECT_EQ(unidos.Lista[0].Objeto->NombreOtorgante(), "JUAN GARCIA");
 }
@@ -127,7 +139,7 @@ TEST(Duplicados, LosEncontradosQuedanComoEstaban) {
     otro.Vecindad = "MADRID";
     encontrados.Anade({Persona("JUAN", "GIL"), {}});
     encontrados.Anade({otro, {}});
-    auto unidos = UneOtorgantesDuplicados(encontrados);
+    auto unidos = SinDuplicados(encontrados);
     unidos.Lista[0].Objeto->Numero = "7";
     ASSERT_EQ(Lineas(encontrados), (std::vector<std::string>{"JUAN GIL", "JUAN GIL"}));
     EXPECT_EQ(*encontrados.Lista[0].Objeto, Persona("JUAN", "GIL"));
@@ -139,7 +151,7 @@ TEST(Duplicados, UnaLineaSinRegistroSeSalta) {
     encontrados.Lista.Anade("NADIE", nullptr);
     encontrados.Origenes.emplace_back();
     encontrados.Anade({Persona("JUAN", "GIL"), {{"Nombre", En(3)}}});
-    const auto unidos = UneOtorgantesDuplicados(encontrados);
+    const auto unidos = SinDuplicados(encontrados);
     ASSERT_EQ(Lineas(unidos), std::vector<std::string>{"JUAN GIL"});
     EXPECT_EQ(unidos.Origenes[0], (TOrigenes{{"Nombre", En(3)}}));
 }
@@ -174,7 +186,7 @@ TEST(Duplicados, ElOrigenSigueAlValorTomado) {
                         {"Provincia", En(9, 45)},
                         {"EstadoCivil", En(9, 80)},
                         {"IntervencionINTI", En(9, 90)}}});
-    const auto unidos = UneOtorgantesDuplicados(encontrados);
+    const auto unidos = SinDuplicados(encontrados);
     ASSERT_EQ(unidos.Origenes.size(), 2U);
     EXPECT_EQ(unidos.Origenes[0], (TOrigenes{{"Nombre", En(3)},
                                              {"Apellidos", En(3)},
@@ -217,7 +229,7 @@ TEST(Duplicados, CampoACampoElOrigenEsDeQuienDioElValor) {
                 TListaOtorgantes encontrados;
                 encontrados.Anade({a, deA});
                 encontrados.Anade({b, deB});
-                const auto unidos = UneOtorgantesDuplicados(encontrados);
+                const auto unidos = SinDuplicados(encontrados);
                 ASSERT_EQ(unidos.Lista.Cuenta(), 1U) << campo;
                 TOrigenes esperados;
                 if (unidos.Lista[0].Objeto.get()->*miembro == valorA) esperados[campo] = En(1);
@@ -225,7 +237,8 @@ TEST(Duplicados, CampoACampoElOrigenEsDeQuienDioElValor) {
                 EXPECT_EQ(unidos.Origenes[0], esperados) << campo << ' ' << enA << enB;
             }
     };
-    for (const auto& [campo, miembro] : textos) comprueba(campo, miembro, std::string("UNO"), std::string("DOS"));
+    for (const auto& [campo, miembro] : textos)
+        comprueba(campo, miembro, std::string("UNO"), std::string("DOS"));
     comprueba("TipoDocumento", &TROtorgante::TipoDocumento, 1, 3);
     comprueba("TipoDocumento", &TROtorgante::TipoDocumento, 5, 3);
     comprueba("EstadoCivil", &TROtorgante::EstadoCivil, 1, 3);

@@ -200,11 +200,11 @@ TEST(TROtorgante, MuestraOtorgante) {
     struct Caso {
         std::string Nombre, Apellidos, Documento, Esperado;
     };
-    for (const auto& [nombre, apellidos, documento, esperado] : std::vector<Caso>{
-             {"ANA", "GARCIA LOPEZ", "12345678Z", "GARCIA LOPEZ, ANA - 12345678Z"},
-             {"ANA", "GARCIA LOPEZ", "", "GARCIA LOPEZ, ANA"},
-             {"", "PROMOCIONES SUR, S.L.", "B12345674", "PROMOCIONES SUR, S.L. - B12345674"},
-             {"", "GARCIA", "", "GARCIA"}}) {
+    for (const auto& [nombre, apellidos, documento, esperado] :
+         std::vector<Caso>{{"ANA", "GARCIA LOPEZ", "12345678Z", "GARCIA LOPEZ, ANA - 12345678Z"},
+                           {"ANA", "GARCIA LOPEZ", "", "GARCIA LOPEZ, ANA"},
+                           {"", "PROMOCIONES SUR, S.L.", "B12345674", "PROMOCIONES SUR, S.L. - B12345674"},
+                           {"", "GARCIA", "", "GARCIA"}}) {
         TROtorgante o;
         o.Nombre = nombre;
         o.Apellidos = apellidos;
