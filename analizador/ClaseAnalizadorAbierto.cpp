@@ -142,7 +142,7 @@ void TClassAnalizadorAbierto::AnalizaFincas() {
 }
 
 void TClassAnalizadorAbierto::EliminaOtorgantesDuplicados() {
-    Otorgantes = UneOtorgantesDuplicados(OtorgantesEncontrados);
+    analizador::EliminaOtorgantesDuplicados(OtorgantesEncontrados, Otorgantes);
 }
 
 namespace {
