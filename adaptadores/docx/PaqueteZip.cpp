@@ -1,6 +1,8 @@
 #include "adaptadores/docx/PaqueteZip.h"
 
 #include <array>
+#include <cstdlib>
+#include <cstring>
 #include <utility>
 
 #include "adaptadores/docx/FalloDocx.h"
@@ -41,6 +43,22 @@ TFuenteZip FuenteDe(std::string_view bytes) {
     TErrorZip error;
     TFuenteZip fuente(zip_source_buffer_create(bytes.data(), bytes.size(), 0, error));
     if (!fuente) throw FalloDocx("no hay memoria para leer el documento");
+    return fuente;
+}
+
+// A source that owns a copy of the bytes, as one has to that is written to: libzip would take bytes that are
+// not its own for its own when it keeps the beginning of the archive.
+TFuenteZip FuenteConCopia(std::string_view bytes) {
+    struct TSuelta {
+        void operator()(void* memoria) const { std::free(memoria); }
+    };
+    std::unique_ptr<void, TSuelta> copia(std::malloc(bytes.size()));
+    if (!copia) throw FalloDocx("no hay memoria para guardar el documento");
+    std::memcpy(copia.get(), bytes.data(), bytes.size());
+    TErrorZip error;
+    TFuenteZip fuente(zip_source_buffer_create(copia.get(), bytes.size(), 1, error));
+    if (!fuente) throw FalloDocx("no hay memoria para guardar el documento");
+    static_cast<void>(copia.release());  // libzip frees it
     return fuente;
 }
 
@@ -163,7 +181,7 @@ std::string TPaqueteZip::Lee(const std::string& parte) {
 std::string TPaqueteZip::ConParte(const std::string& parte, std::string_view contenido) const {
     const auto indice = Indice(parte);
     if (!indice) throw FalloDocx("falta la parte " + Entrecomilla(parte));
-    const auto fuente = FuenteDe(Bytes);
+    const auto fuente = FuenteConCopia(Bytes);
     std::unique_ptr<zip_t, TDescarta> copia(AbreArchivo(fuente, 0));
     if (!copia) throw FalloDocx("no se puede componer el documento nuevo");
     ReemplazaEntrada(copia.get(), *indice, DatosDeParte(copia.get(), *indice, parte), contenido);

@@ -215,6 +215,18 @@ TEST(GuardaDocx, LaMarcaDeCeldaEsUnaPosicion) {
     EXPECT_EQ(leidos, esperados);
 }
 
+TEST(GuardaDocx, UnParDeUnidadesNoSeParte) {
+    const TCarpeta carpeta;
+    const auto fichero = carpeta / "par.docx";
+    EscribeDocumento(fichero, "<w:p><w:r><w:t>a😀&#x1F600;b</w:t></w:r></w:p>");
+    TFicheroDocx documento(fichero);
+    documento.Guarda({{"A", {2, 4}}, {"B", {2, 2}}, {"C", {3, 5}}}, fichero);
+    const std::vector<TMarcador> esperados = {{"A", {1, 5}}, {"B", {1, 1}}, {"C", {3, 5}}};
+    auto leidos = documento.Contenido().Marcadores;
+    std::ranges::sort(leidos, {}, &TMarcador::Nombre);
+    EXPECT_EQ(leidos, esperados);
+}
+
 TEST(GuardaDocx, LasDemasPartesQuedanByteAByteYEnSuOrden) {
     auto partes = PartesDocumento(DocumentoXml("<w:p><w:r><w:t>abc</w:t></w:r></w:p>"));
     partes.insert(partes.begin(), {"docProps/foto.bin", std::string("\0\1\2\xFF", 4)});
