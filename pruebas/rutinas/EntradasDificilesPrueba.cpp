@@ -3,7 +3,7 @@
 #include <functional>
 #include <optional>
 
-#include "plataforma/Ansi.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/TablasDePrueba.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
@@ -16,7 +16,7 @@ namespace {
 // Words of one letter and of signs, so that every kind of text is full of them.
 const TSeccionesDePrueba SECCIONES = {
     {"HOMBRE", {"DON", "D.", "A"}},
-    {"MUJER", {"DOÑA"_ansi}},
+    {"MUJER", {"DOÑA"_a}},
     {"NOTARIO DE", {"NOTARIO DE"}},
     {"REPRESENTACION", {"EN NOMBRE DE", "A"}},
     {"NIF", {"D.N.I.", "1"}},
