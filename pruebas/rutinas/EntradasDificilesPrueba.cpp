@@ -17,14 +17,20 @@ namespace analizador {
 namespace {
 
 constexpr std::size_t MEGA = 1U << 20U;
+constexpr std::size_t MUCHO = 1U << 16U;
 
 TSeccionesDePrueba Secciones() {
     TSeccionesDePrueba secciones = {
-        {"VECINDAD", {"VECINO DE"}},          {"DOMICILIO", {"CON DOMICILIO EN"}},
-        {"NUMERO", {"NUMERO"}},               {"LUGAR NACIMIENTO", {"NATURAL DE"}},
-        {"FECHA NACIMIENTO", {"NACIDO EL"}},  {"MESES", {"ENERO"}},
-        {"NUMEROS", {"UNO"}},                 {"PADRES", {"HIJO DE"}},
-        {"HOMBRE", {"DON"}},                  {"MUJER", {"SRA."}},
+        {"VECINDAD", {"VECINO DE"}},
+        {"DOMICILIO", {"CON DOMICILIO EN"}},
+        {"NUMERO", {"NUMERO"}},
+        {"LUGAR NACIMIENTO", {"NATURAL DE"}},
+        {"FECHA NACIMIENTO", {"NACIDO EL"}},
+        {"MESES", {"ENERO"}},
+        {"NUMEROS", {"UNO"}},
+        {"PADRES", {"HIJO DE"}},
+        {"HOMBRE", {"DON"}},
+        {"MUJER", {"SRA."}},
         {"EXTRANJEROS", {"NO RESIDENTE"}},
     };
     for (const std::string_view seccion : CONST_SECCION_TIPO_VIA) secciones.push_back({seccion, {seccion}});
@@ -67,20 +73,20 @@ std::vector<std::string> TextosDificiles() {
         "Y",
         " Y ",
         ", NUMERO",
-        Repite("A", MEGA),
-        Repite("\xC4", MEGA),
-        Repite(" ", MEGA),
-        Repite("(", MEGA),
-        Repite("7", MEGA),
-        Repite("-, ", MEGA),
+        std::string(MEGA, 'A'),
+        std::string(MUCHO, '\xC4'),
+        std::string(MUCHO, ' '),
+        std::string(MUCHO, '('),
+        std::string(MUCHO, '7'),
+        Repite("-, ", MUCHO),
         // What the recognisers look for, again and again, false or true.
-        Repite("CORDON ", MEGA),
-        Repite("DON ANA ", MEGA),
-        Repite("VECINO DE ", MEGA),
-        Repite("LEONX XLEON ", MEGA),
-        Repite("HIJO DE ", MEGA),
-        Repite("UNO ", MEGA),
-        Repite("L.L", MEGA),
+        Repite("CORDON ", MUCHO),
+        Repite("DON ANA ", MUCHO),
+        Repite("VECINO DE ", MUCHO),
+        Repite("LEONX XLEON ", MUCHO),
+        Repite("HIJO DE ", MUCHO),
+        Repite("UNO ", MUCHO),
+        Repite("L.L", MUCHO),
     };
 }
 
@@ -146,7 +152,7 @@ class EntradasDificiles : public testing::TestWithParam<std::size_t> {
 void Comprueba(const TReconocedor& reconocedor, const std::string& texto) {
     for (const Tramo& tramo : reconocedor.Lee(texto)) {
         EXPECT_NO_THROW((void)EnTramo(texto, tramo)) << texto.substr(0, 60);
-        if (tramo.Longitud == 0) EXPECT_EQ(tramo.Primera, 0U) << texto.substr(0, 60);
+        EXPECT_TRUE(tramo.Longitud != 0 || tramo.Primera == 0) << texto.substr(0, 60);
     }
 }
 
@@ -162,7 +168,7 @@ TEST_P(EntradasDificiles, NadaSeLeeFueraDelTexto) {
                 std::string introducido(introduccion);
                 introducido += texto;
                 Comprueba(reconocedor, introducido);
-                if (texto.size() < MEGA) Comprueba(reconocedor, texto + introducido + texto);
+                if (texto.size() < MUCHO) Comprueba(reconocedor, texto + introducido + texto);
             }
         }
     }
