@@ -9,12 +9,16 @@ namespace analizador {
 
 namespace {
 
+void PonTokens(TRutasAnalizador& rutas, const std::filesystem::path& carpeta) {
+    rutas.PATH_TOKEN_AP = SlashSep(carpeta, "");
+    rutas.CASTELLANO_INI = SlashSep(rutas.PATH_TOKEN_AP, "CASTELLANO.INI");
+    rutas.CATALAN_INI = SlashSep(rutas.PATH_TOKEN_AP, "CATALAN.INI");
+}
+
 TRutasAnalizador RutasDeCarpeta(const std::filesystem::path& carpeta) {
     TRutasAnalizador rutas;
     rutas.PATH_APLICACION = SlashSep(carpeta, "");
-    rutas.PATH_TOKEN_AP = SlashSep(rutas.PATH_APLICACION, "CONFIG/");
-    rutas.CASTELLANO_INI = SlashSep(rutas.PATH_TOKEN_AP, "CASTELLANO.INI");
-    rutas.CATALAN_INI = SlashSep(rutas.PATH_TOKEN_AP, "CATALAN.INI");
+    PonTokens(rutas, SlashSep(rutas.PATH_APLICACION, "CONFIG"));
     return rutas;
 }
 
@@ -36,6 +40,11 @@ const TRutasAnalizador& Rutas() {
 
 void PonCarpetaAplicacion(const std::filesystem::path& carpeta) {
     RutasDelProceso() = RutasDeCarpeta(carpeta);
+    FicheroDelHilo().reset();
+}
+
+void PonCarpetaTokens(const std::filesystem::path& carpeta) {
+    PonTokens(RutasDelProceso(), carpeta);
     FicheroDelHilo().reset();
 }
 

@@ -62,6 +62,9 @@ struct TRutasAnalizador {
 // current token file of this thread becomes the Castilian one. Call it before any analysis begins.
 void PonCarpetaAplicacion(const std::filesystem::path& carpeta);
 
+// Makes `carpeta` itself the folder of the token files; else as above.
+void PonCarpetaTokens(const std::filesystem::path& carpeta);
+
 // The current token file. It belongs to the deed being analysed, hence to the thread; the Castilian one until
 // an analysis chooses.
 [[nodiscard]] const std::filesystem::path& TOKENS_INI();

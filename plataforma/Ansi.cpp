@@ -96,6 +96,11 @@ std::string AnsiDeUtf16(std::u16string_view texto) {
     ansi.reserve(texto.size());
     std::optional<std::size_t> letra;  // the last character that takes room: an accent joins it
     for (const char16_t unidad : texto) {
+        if (unidad < 0x80) {
+            letra = ansi.size();
+            ansi += static_cast<char>(unidad);
+            continue;
+        }
         const bool acento = interno::EsAcentoCombinable(unidad);
         if (acento && letra)
             ansi[*letra] =

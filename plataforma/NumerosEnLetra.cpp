@@ -45,10 +45,12 @@ class TLectorNumero {
     }
 
   private:
+    // The next word, after the blank that may stand before it.
     bool Lee(std::string_view palabra) {
-        const auto espacios = std::min(resto_.find_first_not_of(' '), resto_.size());
-        if (!resto_.substr(espacios).starts_with(palabra)) return false;
-        resto_.remove_prefix(espacios + palabra.size());
+        const std::size_t blanco = !resto_.empty() && resto_[0] == ' ' ? 1 : 0;
+        if (resto_.size() == blanco || resto_[blanco] != palabra[0]) return false;
+        if (resto_.compare(blanco, palabra.size(), palabra) != 0) return false;
+        resto_.remove_prefix(blanco + palabra.size());
         return true;
     }
 
@@ -99,9 +101,10 @@ class TLectorNumero {
     // The hundreds that may have more after them.
     std::optional<TValor> LeeCentenas() {
         const auto antes = resto_;
-        const auto multiplo = LeeUna(idioma_.Multiplos);
-        if (multiplo && LeeUna(idioma_.Cientos)) return *multiplo * 100;
-        resto_ = antes;
+        for (const auto& multiplo : idioma_.Multiplos) {
+            if (Lee(multiplo.Texto) && LeeUna(idioma_.Cientos)) return multiplo.Valor * 100;
+            resto_ = antes;
+        }
         const auto entera = LeeUna(idioma_.CentenasEnteras);
         return entera ? std::optional(*entera * 100) : std::nullopt;
     }
@@ -164,10 +167,10 @@ constexpr bool EsEspacio(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 constexpr bool EsRelleno(char c) {
-    return std::string_view("-=*_.~").find(c) != std::string_view::npos;
+    return c == '-' || c == '=' || c == '*' || c == '_' || c == '.' || c == '~';
 }
 constexpr bool EsParentesis(char c) {
-    return std::string_view("()[]{}").find(c) != std::string_view::npos;
+    return c == '(' || c == ')' || c == '[' || c == ']' || c == '{' || c == '}';
 }
 constexpr bool EsSeparador(char c) {
     return EsEspacio(c) || EsRelleno(c);
@@ -182,12 +185,14 @@ constexpr bool EsCifra(char c) {
 // The part of the text that holds the number: after the fill signs that precede it, if any, and before the
 // first bracket, run of fill signs or closing punctuation.
 std::string_view ParteConNumero(std::string_view texto) {
-    const auto en = [&](std::size_t i) { return i < texto.size() ? texto[i] : ' '; };
-    const auto hayRelleno = [&](std::size_t i) { return EsRelleno(en(i)) && EsRelleno(en(i + 1)); };
+    const auto hayRelleno = [&](std::size_t i) {
+        return EsRelleno(texto[i]) && i + 1 < texto.size() && EsRelleno(texto[i + 1]);
+    };
     std::size_t inicio = 0;
-    while (inicio < texto.size() && EsSeparador(texto[inicio]) &&
-           (EsEspacio(en(inicio)) || EsSeparador(en(inicio + 1))))
-        ++inicio;
+    while (inicio < texto.size() && EsSeparador(texto[inicio])) ++inicio;
+    const bool signoSuelto =
+        inicio > 0 && EsRelleno(texto[inicio - 1]) && (inicio == 1 || EsEspacio(texto[inicio - 2]));
+    if (signoSuelto) --inicio;
     std::size_t fin = inicio;
     while (fin < texto.size() && !EsParentesis(texto[fin]) && !hayRelleno(fin)) ++fin;
     while (fin > inicio && EsSignoFinal(texto[fin - 1])) --fin;

@@ -1,6 +1,7 @@
 #include "plataforma/Rut.h"
 
-#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <memory>
 
 #include "plataforma/Ansi.h"
@@ -16,16 +17,20 @@ constexpr std::string_view ACENTUADAS = "ÁÀÂÃÉÈÊÍÌÎÓÒÔÕÚÙÛÝá�
 constexpr std::string_view LLANAS = "AAAAEEEIIIOOOOUUUYaaaaeeeiiioooouuuy  ''";
 static_assert(ACENTUADAS.size() == LLANAS.size());
 
-char SinAcento(char c) {
-    const auto sitio = ACENTUADAS.find(c);
-    return sitio == std::string_view::npos ? c : LLANAS[sitio];
-}
+// The plain letter of each byte: every paragraph goes through here several times.
+constexpr std::array<char, 256> SIN_ACENTO = [] {
+    std::array<char, 256> tabla{};
+    for (std::size_t c = 0; c < tabla.size(); ++c) tabla[c] = static_cast<char>(c);
+    for (std::size_t i = 0; i < ACENTUADAS.size(); ++i)
+        tabla[static_cast<unsigned char>(ACENTUADAS[i])] = LLANAS[i];
+    return tabla;
+}();
 
 }  // namespace
 
 std::string QuitaAcentoMayMin(std::string_view texto) {
     std::string llano(texto);
-    std::transform(llano.begin(), llano.end(), llano.begin(), SinAcento);
+    for (char& c : llano) c = SIN_ACENTO[static_cast<unsigned char>(c)];
     return llano;
 }
 

@@ -1,0 +1,54 @@
+#include "adaptadores/docx/LecturaDocx.h"
+
+#include <utility>
+
+#include "adaptadores/docx/EstilosDocx.h"
+#include "adaptadores/docx/FalloDocx.h"
+#include "plataforma/Ansi.h"
+
+namespace analizador {
+
+namespace {
+
+TTextoXml LeeXml(TPaqueteZip& paquete, const std::string& parte) {
+    return DecodificaXml(paquete.Lee(parte), parte);
+}
+
+TEstilosDocx LeeEstilos(TPaqueteZip& paquete, const TPartesDocx& partes) {
+    if (!partes.Estilos) return {};
+    const TArbolXml arbol(LeeXml(paquete, *partes.Estilos).Utf8, *partes.Estilos);
+    return TEstilosDocx(arbol.Raiz());
+}
+
+std::vector<TVariable> LeeVariables(TPaqueteZip& paquete, const TPartesDocx& partes) {
+    std::vector<TVariable> variables;
+    if (!partes.Ajustes) return variables;
+    const TArbolXml arbol(LeeXml(paquete, *partes.Ajustes).Utf8, *partes.Ajustes);
+    for (const auto variable : arbol.Raiz().child("docVars").children("docVar"))
+        variables.push_back(
+            {AnsiDeUtf8(variable.attribute("name").value()), AnsiDeUtf8(variable.attribute("val").value())});
+    return variables;
+}
+
+std::vector<TSuceso> RecorrePrincipal(const TArbolXml& arbol, const TEstilosDocx& estilos) {
+    const auto raiz = arbol.Raiz();
+    if (std::string_view(raiz.name()) != "document" || !raiz.child("body"))
+        throw FalloDocx("no es un documento de Word: su parte principal no tiene cuerpo de documento");
+    return RecorreDocumento(raiz, estilos);
+}
+
+}  // namespace
+
+TLecturaDocx::TLecturaDocx(std::string_view bytes)
+    : Paquete(bytes),
+      Partes(LocalizaPartes(Paquete)),
+      Principal(LeeXml(Paquete, Partes.Principal)),
+      Arbol(Principal.Utf8, Partes.Principal),
+      Sucesos(RecorrePrincipal(Arbol, LeeEstilos(Paquete, Partes))),
+      Composicion(Compone(Sucesos)) {}
+
+TContenidoDocumento TLecturaDocx::Contenido() {
+    return {AnsiDeUtf16(Composicion.Texto), Composicion.Marcadores, LeeVariables(Paquete, Partes)};
+}
+
+}  // namespace analizador

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string_view>
+
+namespace analizador {
+
+// The file that a path leads to, following symbolic links; it need not exist. Throws FalloDocx for a loop of
+// links.
+[[nodiscard]] std::filesystem::path FicheroReal(const std::filesystem::path& ruta);
+
+// Puts `bytes` in the place of `fichero` (no symbolic link), or in a new file, in one step: they are first
+// written to another file of the same folder and brought to the disk. An old file's mode and, where the
+// system allows, owner stay. `justoAntes` is called when all is ready and may still throw to call it off.
+// After an exception, its own or FalloDocx, the old file is whole and the other one gone.
+void SustituyeFichero(const std::filesystem::path& fichero, std::string_view bytes,
+                      const std::function<void()>& justoAntes);
+
+}  // namespace analizador

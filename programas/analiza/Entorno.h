@@ -1,0 +1,32 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+#include "adaptadores/consola/PantallaConsola.h"
+#include "adaptadores/consola/RevisorAutomatico.h"
+#include "adaptadores/dbase/ProveedorDbase.h"
+#include "adaptadores/ini/ConfigIni.h"
+
+namespace analizador {
+
+// The suite as a stand-alone office has it, installed for as long as this object lives.
+class TEntorno {
+  public:
+    // `config`: the folder of the token files and OFICINA.INI; by default CONFIG beside the program, else in its
+    // installed share folder. `tablas`: the folder of the reference tables; by default the one that OFICINA.INI says.
+    // Throws ErrorConfiguracion.
+    TEntorno(const std::optional<std::filesystem::path>& config, const std::optional<std::filesystem::path>& tablas);
+
+  private:
+    TConfigIni FConfig;
+    TProveedorDbase FTablas;
+    TPantallaConsola FPantalla;
+    TRevisorAutomatico FRevisor;
+    InstalaConfig FInstalaConfig{FConfig};
+    InstalaTablas FInstalaTablas{FTablas};
+    InstalaPantalla FInstalaPantalla{FPantalla};
+    InstalaVistaPreseleccion FInstalaRevisor{FRevisor};
+};
+
+}  // namespace analizador

@@ -1,0 +1,115 @@
+#include "programas/analiza/SalidaJson.h"
+
+#include <nlohmann/json.hpp>
+
+#include "analizador/ConstAnalizador.h"
+#include "dialogos/ListaConceptosPreseleccionados.h"
+#include "plataforma/Ansi.h"
+#include "plataforma/Rnumcad.h"
+
+namespace analizador {
+
+namespace {
+
+using TJson = nlohmann::ordered_json;
+
+TJson Textos(const std::vector<std::string>& textos) {
+    TJson json = TJson::array();
+    for (const auto& texto : textos) json.push_back(Utf8DeAnsi(texto));
+    return json;
+}
+
+TJson Fecha(const std::optional<TFecha>& fecha) {
+    if (!fecha) return nullptr;
+    return StrCeros(static_cast<int>(fecha->year()), 4) + "-" +
+           StrCeros(static_cast<int>(static_cast<unsigned>(fecha->month())), 2) + "-" +
+           StrCeros(static_cast<int>(static_cast<unsigned>(fecha->day())), 2);
+}
+
+TJson Cabecera(const TClassParrafoCabecera& cabecera) {
+    return {{"NumeroProtocolo", cabecera.NumeroProtocolo},
+            {"Lugar", cabecera.Lugar},
+            {"Abreviatura", Utf8DeAnsi(cabecera.Abreviatura)},
+            {"Fecha", Utf8DeAnsi(cabecera.Fecha)},
+            {"Notario", Utf8DeAnsi(cabecera.Notario)},
+            {"NotarioSustituto", Utf8DeAnsi(cabecera.NotarioSustituto)}};
+}
+
+TJson Conceptos(const ListaTextos<TRConcepto>& conceptos) {
+    TJson json = TJson::array();
+    for (const auto& linea : conceptos)
+        json.push_back({{"NumeroTipo", linea.Objeto->NumeroTipo},
+                        {"Nombre", Utf8DeAnsi(linea.Objeto->Nombre)},
+                        {"CodOficial", Utf8DeAnsi(linea.Objeto->CodOficial)},
+                        {"Prestamo", linea.Objeto->Prestamo}});
+    return json;
+}
+
+TJson Otorgante(const TROtorgante& o) {
+    return {{"TipoDocumento", o.TipoDocumento},
+            {"NumDocumento", Utf8DeAnsi(o.NumDocumento)},
+            {"Sexo", Utf8DeAnsi(o.Sexo)},
+            {"Nombre", Utf8DeAnsi(o.Nombre)},
+            {"Apellidos", Utf8DeAnsi(o.Apellidos)},
+            {"EstadoCivil", o.EstadoCivil},
+            {"Regimen", o.Regimen},
+            {"Conyuge", Utf8DeAnsi(o.Conyuge)},
+            {"Vecindad", Utf8DeAnsi(o.Vecindad)},
+            {"Provincia", Utf8DeAnsi(o.Provincia)},
+            {"TipoVia", Utf8DeAnsi(o.TipoVia)},
+            {"Domicilio", Utf8DeAnsi(o.Domicilio)},
+            {"Numero", Utf8DeAnsi(o.Numero)},
+            {"CodPostal", Utf8DeAnsi(o.CodPostal)},
+            {"CodINE", Utf8DeAnsi(o.CodINE)},
+            {"IntervencionINTI", o.IntervencionINTI},
+            {"IntervencionVRK", o.IntervencionVRK},
+            {"Residente", o.Residente},
+            {"CodPais", o.CodPais},
+            {"Pais", Utf8DeAnsi(o.Pais)},
+            {"Nacionalidad", Utf8DeAnsi(o.Nacionalidad)},
+            {"LugarNacimiento", Utf8DeAnsi(o.LugarNacimiento)},
+            {"PaisNacimiento", Utf8DeAnsi(o.PaisNacimiento)},
+            {"ProvinciaNacimiento", Utf8DeAnsi(o.ProvinciaNacimiento)},
+            {"FechaNacimiento", Fecha(o.FechaNacimiento)},
+            {"Padre", Utf8DeAnsi(o.Padre)},
+            {"Madre", Utf8DeAnsi(o.Madre)},
+            {"EnXML", o.EnXML},
+            {"Propuesto", SeProponeOtorgante(o)}};
+}
+
+TJson Otorgantes(const ListaTextos<TROtorgante>& otorgantes) {
+    TJson json = TJson::array();
+    for (const auto& linea : otorgantes) json.push_back(Otorgante(*linea.Objeto));
+    return json;
+}
+
+TJson Operacion(const TClassOperacion& operacion) {
+    TJson plazos = TJson::array();
+    for (const auto& plazo : operacion.Plazos) plazos.push_back(Cad_Int(plazo));
+    return {{"Plazos", plazos}, {"TipoInteres", operacion.TipoInteres}, {"TAEs", Textos(operacion.TAEs)}};
+}
+
+}  // namespace
+
+std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis) {
+    TJson json;
+    json["archivo"] = fichero.string();
+    if (!analisis.Error().empty()) {
+        json["error"] = analisis.Error();
+    } else {
+        const TClassAnalizadorAbierto& sesion = analisis.Sesion();
+        json["idioma"] = EsCastellano() ? "castellano" : "catalan";
+        json["Cabecera"] = Cabecera(sesion.Cabecera);
+        json["Conceptos"] = Conceptos(sesion.Cabecera.Conceptos);
+        json["Cuantias"] = Textos(sesion.Cuantias);
+        json["Otorgantes"] = Otorgantes(sesion.Otorgantes.Lista);
+        json["Operacion"] = Operacion(sesion.Operacion);
+        json["Fincas"] = Textos(sesion.Fincas);
+        json["Empleado"] = Utf8DeAnsi(sesion.Empleado);
+        json["Pizarra"] = Utf8DeAnsi(sesion.Pizarra);
+    }
+    // A file's name need not be valid UTF-8.
+    return json.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+}  // namespace analizador

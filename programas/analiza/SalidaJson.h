@@ -1,0 +1,14 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "programas/analiza/AnalisisFichero.h"
+
+namespace analizador {
+
+// The analysis of a file as one line of JSON (UTF-8, without the line end): its results, or only the file and the
+// error.
+[[nodiscard]] std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis);
+
+}  // namespace analizador

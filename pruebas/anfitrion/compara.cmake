@@ -1,0 +1,7 @@
+cmake_minimum_required(VERSION 3.25)
+file(READ ${README} readme)
+file(READ ${EJEMPLO} ejemplo)
+string(FIND "${readme}" "${ejemplo}" donde)
+if(donde LESS 0)
+  message(FATAL_ERROR "The example in ${README} is not the one that is compiled, ${EJEMPLO}")
+endif()
