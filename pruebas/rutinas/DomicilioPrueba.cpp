@@ -198,7 +198,8 @@ TEST(Domicilio, Extranjero) {
 TEST(Domicilio, ExtranjeroEnCatalan) {
     const TVocabularioDePrueba vocabulario(SeccionesCastellanas(), SeccionesCatalanas());
     vocabulario.Elige(TIdioma::Catalan);
-    Comprueba(TCasoExtranjero{"AMB DOMICILI A PLACA DEL COL.LEGI, ANDORRA. TE", "PLACA DEL COL.LEGI, ANDORRA"});
+    Comprueba(
+        TCasoExtranjero{"AMB DOMICILI A PLACA DEL COL.LEGI, ANDORRA. TE", "PLACA DEL COL.LEGI, ANDORRA"});
 }
 
 }  // namespace analizador

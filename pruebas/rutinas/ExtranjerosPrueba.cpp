@@ -37,8 +37,8 @@ const std::vector<TFilaProvincia> PAISES = {
 std::vector<std::string> Resumen(const std::vector<THallazgo<TRPais>>& paises) {
     std::vector<std::string> resumen;
     for (const auto& pais : paises)
-        resumen.push_back(pais.Valor.Nombre + " " + std::to_string(pais.Valor.Codigo) + " " + pais.Valor.Texto +
-                          " " + std::to_string(pais.Valor.Posicion));
+        resumen.push_back(pais.Valor.Nombre + " " + std::to_string(pais.Valor.Codigo) + " " +
+                          pais.Valor.Texto + " " + std::to_string(pais.Valor.Posicion));
     return resumen;
 }
 
@@ -58,13 +58,21 @@ const std::vector<TCaso> CASOS = {
     {"de nacionalidad francesa, vecino de Italia", true, "", 0, "", {"FRANCIA 110 FRANCESA 17"}},
     // A marker and the country's name.
     {"no residente, vecino de París, Francia"_ansi, false, "FRANCIA", 110, "Francia", {}},
-    {"residente en Francia, de nacionalidad italiana", false, "FRANCIA", 110, "Francia",
-     {"ITALIA 115 ITALIANA 38"}},
+    {"residente en Francia, de nacionalidad italiana",
+     false,
+     "FRANCIA",
+     110,
+     "Francia",
+     {"ITALIA 115 ITALIANA 39"}},
     // The first name in alphabetical order, whatever its place in the text.
     {"NO RESIDENTE, VECINO DE ITALIA Y ALEMANIA", false, "ALEMANIA", 126, "ALEMANIA", {}},
     {"NO RESIDENTE, MADRID, EUROPA", false, "DESCONOCIDO", 999, "", {}},
     // A marker alone: the country of the first word of nationality, in the order of the text.
-    {"NO RESIDENTE, ITALIANO CASADO CON ALEMANA", false, "ITALIA", 115, "ITALIANO",
+    {"NO RESIDENTE, ITALIANO CASADO CON ALEMANA",
+     false,
+     "ITALIA",
+     115,
+     "ITALIANO",
      {"ITALIA 115 ITALIANO 15", "ALEMANIA 126 ALEMANA 35"}},
     {"NO RESIDENTE", false, "DESCONOCIDO", 999, "", {}},
     // One entry for a country, through the first of its fields that is there, in the fields' order.
@@ -92,7 +100,11 @@ const std::vector<TCaso> CASOS = {
     {"DE NACIONALIDAD HOLANDESA", true, "", 0, "", {"HOLANDA 103 HOLANDESA 17"}},
     {"DE NACIONALIDAD CONGOLESA", true, "", 0, "", {"CONGO 400 CONGOLESA 17"}},
     // A country that the text names decides: against the preferred one, and for either of the pair.
-    {"NO RESIDENTE, HOLANDESA DE LOS PAISES BAJOS", false, "PAISES BAJOS", 104, "PAISES BAJOS",
+    {"NO RESIDENTE, HOLANDESA DE LOS PAISES BAJOS",
+     false,
+     "PAISES BAJOS",
+     104,
+     "PAISES BAJOS",
      {"PAISES BAJOS 104 HOLANDESA 15"}},
     {"NO RESIDENTE, CONGOLESA DEL ZAIRE", false, "ZAIRE", 401, "ZAIRE", {"ZAIRE 401 CONGOLESA 15"}},
     {"NO RESIDENTE, CONGOLESA DEL CONGO", false, "CONGO", 400, "CONGO", {"CONGO 400 CONGOLESA 15"}},
@@ -118,7 +130,11 @@ const std::vector<TCaso> CASOS_CATALANES = {
      0,
      "",
      {"HAITI 230 HA#ITIANA 17", "FRANCIA 110 FRANCESA 29"}},
-    {"NO RESIDENTE, VEÏNA, UCRAÏNESA"_ansi, false, "UCRANIA", 135, "UCRAÏNESA"_ansi,
+    {"NO RESIDENTE, VEÏNA, UCRAÏNESA"_ansi,
+     false,
+     "UCRANIA",
+     135,
+     "UCRAÏNESA"_ansi,
      {"UCRANIA 135 UCRA#INESA 23"}},
     // Names of countries are searched in the text itself.
     {"NO RESIDENTE, VEÏNA DE FRANCIA"_ansi, false, "FRANCIA", 110, "FRANCIA", {}},
@@ -172,8 +188,8 @@ TEST_F(Extranjeros, PaisesPreferidos) {
           "RUANDA"}) {
         // The preferred one is in front of its pair in the list, then behind it.
         for (const std::string_view otro : {"AAA", "ZZZ"}) {
-            tablas_.Pon("PROVIN.DBF",
-                        Provincias({{"1", preferido, "2", {"COMPARTIDA"}}, {"2", otro, "2", {"COMPARTIDA"}}}));
+            tablas_.Pon("PROVIN.DBF", Provincias({{"1", preferido, "2", {"COMPARTIDA"}},
+                                                  {"2", otro, "2", {"COMPARTIDA"}}}));
             EXPECT_EQ(Resumen(CompruebaExtranjeros("COMPARTIDA").Paises),
                       std::vector<std::string>{std::string(preferido) + " 1 COMPARTIDA 1"});
         }

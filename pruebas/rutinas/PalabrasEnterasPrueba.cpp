@@ -1,8 +1,7 @@
-#include "rutinas/PalabrasEnteras.h"
-
 #include <gtest/gtest.h>
 
 #include "plataforma/Ansi.h"
+#include "rutinas/PalabrasEnteras.h"
 
 namespace analizador {
 

@@ -19,10 +19,10 @@ struct TFilaProvincia {
 };
 
 [[nodiscard]] inline TDatosDePrueba Provincias(const std::vector<TFilaProvincia>& filas) {
-    TDatosDePrueba datos{{"CODIGO", "PROVINCIA", "GRUPO", "NACIONALID", "GENTIL1_MA", "GENTIL2_MA",
-                          "GENTIL1_FE", "GENTIL2_FE", "NACIONA_CA", "GEN1_MA_CA", "GEN2_MA_CA", "GEN1_FE_CA",
-                          "GEN2_FE_CA"},
-                         {}};
+    TDatosDePrueba datos{
+        {"CODIGO", "PROVINCIA", "GRUPO", "NACIONALID", "GENTIL1_MA", "GENTIL2_MA", "GENTIL1_FE", "GENTIL2_FE",
+         "NACIONA_CA", "GEN1_MA_CA", "GEN2_MA_CA", "GEN1_FE_CA", "GEN2_FE_CA"},
+        {}};
     for (const TFilaProvincia& fila : filas) {
         std::vector<std::string> valores = {std::string(fila.Codigo), std::string(fila.Provincia),
                                             std::string(fila.Grupo)};
