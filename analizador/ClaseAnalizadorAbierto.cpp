@@ -145,22 +145,6 @@ void TClassAnalizadorAbierto::EliminaOtorgantesDuplicados() {
     analizador::EliminaOtorgantesDuplicados(OtorgantesEncontrados, Otorgantes);
 }
 
-namespace {
-
-// The parties chosen in the review, each with the origins that its name had before it.
-TListaOtorgantes ConSusOrigenes(ListaTextos<TROtorgante> elegidos, const TListaOtorgantes& antes) {
-    TListaOtorgantes lista;
-    for (const auto& linea : elegidos) {
-        TOrigenes origenes;
-        for (std::size_t i = 0; i < antes.Lista.Cuenta(); ++i)
-            if (antes.Lista[i].Texto == linea.Texto) origenes = antes.Origenes[i];
-        lista.Anade({*linea.Objeto, std::move(origenes)});
-    }
-    return lista;
-}
-
-}  // namespace
-
 bool TClassAnalizadorAbierto::ListaConceptosPreseleccionados() {
     const std::string xml = Documento().VariableValor("XML");
     if (!xml.empty())
@@ -176,7 +160,7 @@ bool TClassAnalizadorAbierto::ListaConceptosPreseleccionados() {
     dialogo.RecogeListaConceptosValidos(ConceptosValidos);
     ListaTextos<TROtorgante> elegidos;
     dialogo.RecogeListaOtorgantesValidos(elegidos);
-    Otorgantes = ConSusOrigenes(std::move(elegidos), Otorgantes);
+    Otorgantes.Sustituye(std::move(elegidos));
     return true;
 }
 

@@ -45,20 +45,22 @@ TOrigenes UneOrigenes(const TROtorgante& propio, const TOrigenes& propios, const
 
 }  // namespace
 
-void EliminaOtorgantesDuplicados(const TListaOtorgantes& encontrados, TListaOtorgantes& otorgantes) {
+TListaOtorgantes UneOtorgantesDuplicados(const TListaOtorgantes& encontrados) {
+    TListaOtorgantes unidos;
     for (std::size_t i = 0; i < encontrados.Lista.Cuenta(); ++i) {
         const TROtorgante* const hallado = encontrados.Lista[i].Objeto.get();
         if (hallado == nullptr) continue;
         const TOrigenes& origenes = encontrados.Origenes[i];
-        TROtorgante* const conocido = Otorgante(hallado->NombreOtorgante(), otorgantes.Lista);
+        TROtorgante* const conocido = Otorgante(hallado->NombreOtorgante(), unidos.Lista);
         if (conocido == nullptr) {
-            otorgantes.Anade({*hallado, origenes});
+            unidos.Anade({*hallado, origenes});
             continue;
         }
-        TOrigenes& suyos = otorgantes.OrigenesDe(*conocido);
+        TOrigenes& suyos = unidos.OrigenesDe(*conocido);
         suyos = UneOrigenes(*conocido, suyos, origenes);
         conocido->ActualizaValores(*hallado);
     }
+    return unidos;
 }
 
 }  // namespace analizador

@@ -19,12 +19,6 @@ TROtorgante Persona(std::string nombre, std::string apellidos) {
     return o;
 }
 
-TListaOtorgantes SinDuplicados(const TListaOtorgantes& encontrados) {
-    TListaOtorgantes otorgantes;
-    EliminaOtorgantesDuplicados(encontrados, otorgantes);
-    return otorgantes;
-}
-
 std::vector<std::string> Lineas(const TListaOtorgantes& lista) {
     std::vector<std::string> lineas;
     for (const auto& linea : lista.Lista) lineas.push_back(linea.Texto);
@@ -63,7 +57,7 @@ TEST(Duplicados, QuienEsElMismo) {
     for (const auto& [que, nombres, lineas] : casos) {
         TListaOtorgantes encontrados;
         for (const auto& [nombre, apellidos] : nombres) encontrados.Anade({Persona(nombre, apellidos), {}});
-        EXPECT_EQ(Lineas(SinDuplicados(encontrados)), lineas) << que;
+        EXPECT_EQ(Lineas(UneOtorgantesDuplicados(encontrados)), lineas) << que;
     }
 }
 
@@ -76,7 +70,7 @@ TEST(Duplicados, NiElDocumentoNiElSexoLosDistinguen) {
     otro.Sexo = "M";
     encontrados.Anade({uno, {}});
     encontrados.Anade({otro, {}});
-    const auto unidos = SinDuplicados(encontrados);
+    const auto unidos = UneOtorgantesDuplicados(encontrados);
     ASSERT_EQ(unidos.Lista.Cuenta(), 1U);
     EXPECT_EQ(unidos.Lista[0].Objeto->NumDocumento, "12345678Z");
     EXPECT_EQ(unidos.Lista[0].Objeto->Sexo, "H");
@@ -89,7 +83,7 @@ TEST(Duplicados, DeVariosQueValenElPrimeroGuardado) {
     TROtorgante completo = Persona("JUAN", "GARCIA LOPEZ");
     completo.NumDocumento = "12345678Z";
     encontrados.Anade({completo, {}});
-    const auto unidos = SinDuplicados(encontrados);
+    const auto unidos = UneOtorgantesDuplicados(encontrados);
     ASSERT_EQ(Lineas(unidos), (std::vector<std::string>{"JUAN GARCIA L", "JUAN GARCIA"}));
     EXPECT_EQ(unidos.Lista[0].Objeto->NumDocumento, "12345678Z");
     EXPECT_EQ(unidos.Lista[1].Objeto->NumDocumento, "");
@@ -111,7 +105,7 @@ TEST(Duplicados, CadaMencionCompletaLaPrimeraYLaUltimaDecide) {
     TListaOtorgantes encontrados;
     for (const auto& o : {compareciente, representado, deudor}) encontrados.Anade({o, {}});
 
-    const auto unidos = SinDuplicados(encontrados);
+    const auto unidos = UneOtorgantesDuplicados(encontrados);
     ASSERT_EQ(unidos.Lista.Cuenta(), 1U);
     TROtorgante esperado = Persona("JUAN", "GARCIA");
     esperado.TipoDocumento = 1;
@@ -128,7 +122,7 @@ TEST(Duplicados, LaLineaConservaSuTexto) {
     TListaOtorgantes encontrados;
     encontrados.Anade({Persona("", "GARCIA"), {}});
     encontrados.Anade({Persona("JUAN", "GARCIA"), {}});
-    const auto unidos = SinDuplicados(encontrados);
+    const auto unidos = UneOtorgantesDuplicados(encontrados);
     ASSERT_EQ(Lineas(unidos), std::vector<std::string>{"GARCIA"});
     EXPECT_EQ(unidos.Lista[0].Objeto->NombreOtorgante(), "JUAN GARCIA");
 }
@@ -139,7 +133,7 @@ TEST(Duplicados, LosEncontradosQuedanComoEstaban) {
     otro.Vecindad = "MADRID";
     encontrados.Anade({Persona("JUAN", "GIL"), {}});
     encontrados.Anade({otro, {}});
-    auto unidos = SinDuplicados(encontrados);
+    auto unidos = UneOtorgantesDuplicados(encontrados);
     unidos.Lista[0].Objeto->Numero = "7";
     ASSERT_EQ(Lineas(encontrados), (std::vector<std::string>{"JUAN GIL", "JUAN GIL"}));
     EXPECT_EQ(*encontrados.Lista[0].Objeto, Persona("JUAN", "GIL"));
@@ -151,7 +145,7 @@ TEST(Duplicados, UnaLineaSinRegistroSeSalta) {
     encontrados.Lista.Anade("NADIE", nullptr);
     encontrados.Origenes.emplace_back();
     encontrados.Anade({Persona("JUAN", "GIL"), {{"Nombre", En(3)}}});
-    const auto unidos = SinDuplicados(encontrados);
+    const auto unidos = UneOtorgantesDuplicados(encontrados);
     ASSERT_EQ(Lineas(unidos), std::vector<std::string>{"JUAN GIL"});
     EXPECT_EQ(unidos.Origenes[0], (TOrigenes{{"Nombre", En(3)}}));
 }
@@ -186,7 +180,7 @@ TEST(Duplicados, ElOrigenSigueAlValorTomado) {
                         {"Provincia", En(9, 45)},
                         {"EstadoCivil", En(9, 80)},
                         {"IntervencionINTI", En(9, 90)}}});
-    const auto unidos = SinDuplicados(encontrados);
+    const auto unidos = UneOtorgantesDuplicados(encontrados);
     ASSERT_EQ(unidos.Origenes.size(), 2U);
     EXPECT_EQ(unidos.Origenes[0], (TOrigenes{{"Nombre", En(3)},
                                              {"Apellidos", En(3)},
@@ -229,7 +223,7 @@ TEST(Duplicados, CampoACampoElOrigenEsDeQuienDioElValor) {
                 TListaOtorgantes encontrados;
                 encontrados.Anade({a, deA});
                 encontrados.Anade({b, deB});
-                const auto unidos = SinDuplicados(encontrados);
+                const auto unidos = UneOtorgantesDuplicados(encontrados);
                 ASSERT_EQ(unidos.Lista.Cuenta(), 1U) << campo;
                 TOrigenes esperados;
                 if (unidos.Lista[0].Objeto.get()->*miembro == valorA) esperados[campo] = En(1);

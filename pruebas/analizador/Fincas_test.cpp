@@ -23,20 +23,5 @@ TEST(Fincas, NombreFinca) {
     for (const auto& [marcador, nombre] : casos) EXPECT_EQ(NombreFinca(marcador), nombre) << marcador;
 }
 
-TEST(Fincas, FincasDeMarcadores) {
-    const auto marcadores = [](const std::vector<std::string>& nombres) {
-        std::vector<TMarcador> lista;
-        for (const auto& nombre : nombres) lista.push_back({nombre, {0, 1}});
-        return lista;
-    };
-    using TNombres = std::vector<std::string>;
-    EXPECT_EQ(FincasDeMarcadores(marcadores({"CABECERA", "FINCA_2", "EXPONEN", "FINCA_1"})),
-              (TNombres{"2", "1"}));
-    EXPECT_EQ(FincasDeMarcadores(marcadores({"FINCA_1", "XFINCA_1", "FINCA_a", "FINCA_A"})),
-              (TNombres{"1", "a", "A"}));
-    EXPECT_EQ(FincasDeMarcadores(marcadores({"FINCA_", "XFINCA_"})), TNombres{""});
-    EXPECT_EQ(FincasDeMarcadores({}), TNombres{});
-}
-
 }  // namespace
 }  // namespace analizador

@@ -92,7 +92,7 @@ TEST(Sesion, GuardaDondeLeyoCadaDato) {
         return std::string(parrafo.substr(origen.Donde.Primera, origen.Donde.Longitud));
     };
     const auto& sesion = escena.Sesion;
-    EXPECT_EQ(texto(*sesion.Cabecera.Origen.NumeroProtocolo), "DOS MIL CINCO.");
+    EXPECT_EQ(texto(*sesion.Cabecera.Origen.NumeroProtocolo), "DOS MIL CINCO");
     EXPECT_EQ(texto(sesion.Cabecera.Origen.Conceptos.at(0)), "COMPRAVENTA");
     EXPECT_EQ(texto(*sesion.Cabecera.Origen.Lugar), "Madrid");
     EXPECT_EQ(texto(*sesion.Cabecera.Origen.Fecha), "dos de marzo de dos mil doce.");

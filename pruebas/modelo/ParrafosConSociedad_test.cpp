@@ -214,9 +214,10 @@ TEST_F(ParrafosConSociedad, ElRepresentanteEsLaPrimeraPersonaYLoSigueSiendo) {
 }
 
 TEST_F(ParrafosConSociedad, SinPersonasNoHayRepresentante) {
-    for (const auto& [texto, representante] : std::vector<std::pair<std::string_view, std::string>>{
-             {"En nombre y representación de \"BANCO SUR\".\r"_ansi, ""},
-             {"DON MOHAMED, apoderado.\r", "MOHAMED"}}) {
+    constexpr std::string_view DE_UN_BANCO = "En nombre y representación de \"BANCO SUR\".\r"_ansi;
+    const std::vector<std::pair<std::string_view, std::string>> casos = {
+        {DE_UN_BANCO, ""}, {"DON MOHAMED, apoderado.\r", "MOHAMED"}};
+    for (const auto& [texto, representante] : casos) {
         TClassParrafoRepresentacion parrafo(texto);
         parrafo.Desglosa();
         EXPECT_EQ(parrafo.Representante.Valor, representante);
