@@ -128,6 +128,11 @@ void TClassCliente::DesglosaDomicilio() {
     Numero = std::move(domicilio.Numero);
 }
 
+TOrigen TClassCliente::Origen(Tramo tramo) const {
+    const std::string_view trozo = Recorta(std::string_view(Texto).substr(tramo.Primera, tramo.Longitud));
+    return {NumeroParrafo, {static_cast<std::size_t>(trozo.data() - Texto.data()), trozo.size()}};
+}
+
 TOtorganteHallado TClassCliente::ConResidencia() const {
     TOtorganteHallado hallado;
     Pon(hallado, &TROtorgante::Vecindad, "Vecindad", Vecindad.Valor, Origen(Vecindad.Donde));

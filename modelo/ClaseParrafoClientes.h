@@ -54,8 +54,8 @@ class TClassCliente {
     // the postal code.
     [[nodiscard]] TOtorganteHallado ConResidencia() const;
 
-    // Where in the document a stretch of Texto stands.
-    [[nodiscard]] TOrigen Origen(Tramo tramo) const { return {NumeroParrafo, tramo}; }
+    // Where in the document a stretch of Texto stands, without the blanks at its ends.
+    [[nodiscard]] TOrigen Origen(Tramo tramo) const;
 
   private:
     void DesglosaPartes();

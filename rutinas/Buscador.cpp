@@ -1,5 +1,7 @@
 #include "rutinas/Buscador.h"
 
+#include <algorithm>
+
 #include "analizador/ConstAnalizador.h"
 
 namespace analizador {
@@ -36,6 +38,13 @@ std::optional<TEntradaHallada> TBuscadorEntradas::PrimeraEntrada(std::size_t des
         if (const std::size_t posicion = ProximaDe(entrada, desde); posicion != std::string_view::npos)
             return TEntradaHallada{posicion, entrada.Texto, entrada.Numero};
     return std::nullopt;
+}
+
+bool TBuscadorEntradas::HayEntre(std::size_t desde, std::size_t hasta) {
+    return std::any_of(entradas_.begin(), entradas_.end(), [&](TEntrada& entrada) {
+        const std::size_t posicion = ProximaDe(entrada, desde);
+        return posicion != std::string_view::npos && posicion + entrada.Texto.size() <= hasta;
+    });
 }
 
 }  // namespace analizador

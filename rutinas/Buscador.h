@@ -33,6 +33,8 @@ class TBuscadorEntradas {
     [[nodiscard]] std::optional<TEntradaHallada> MasALaIzquierda(std::size_t desde = 0);
     // The first entry in file order that occurs at or after `desde`, at its first occurrence there.
     [[nodiscard]] std::optional<TEntradaHallada> PrimeraEntrada(std::size_t desde = 0);
+    // True when some entry stands wholly in [desde, hasta).
+    [[nodiscard]] bool HayEntre(std::size_t desde, std::size_t hasta);
 
   private:
     struct TEntrada {
@@ -46,6 +48,25 @@ class TBuscadorEntradas {
     std::shared_ptr<const TFicheroIni> fichero_;
     std::string_view texto_;
     std::vector<TEntrada> entradas_;
+};
+
+// Finds one character again and again in one text, from positions that move on. The text must outlive the
+// object.
+class TBuscadorCaracter {
+  public:
+    TBuscadorCaracter(std::string_view texto, char caracter)
+        : texto_(texto), caracter_(caracter), proximo_(texto.find(caracter)) {}
+
+    // The first one at or after `desde`, which never goes back; npos when there is none.
+    [[nodiscard]] std::size_t Desde(std::size_t desde) {
+        if (desde > proximo_) proximo_ = texto_.find(caracter_, desde);
+        return proximo_;
+    }
+
+  private:
+    std::string_view texto_;
+    char caracter_;
+    std::size_t proximo_;
 };
 
 }  // namespace analizador

@@ -25,6 +25,21 @@ class TTextoSin {
 
     [[nodiscard]] const std::string& Texto() const { return texto_; }
 
+    // Where in Texto() a position of the original text has come to stand; that of a removed character is the
+    // next one's.
+    [[nodiscard]] std::size_t Posicion(std::size_t original) const {
+        std::size_t desde = 0;
+        std::size_t hasta = huecos_.size();  // how many were removed before it lies in [desde, hasta]
+        while (desde < hasta) {
+            const std::size_t medio = (desde + hasta) / 2;
+            if (huecos_[medio] + medio < original)
+                desde = medio + 1;
+            else
+                hasta = medio;
+        }
+        return original - desde;
+    }
+
     // The stretch of the original text from which a stretch of this one came.
     [[nodiscard]] Tramo Original(Tramo tramo) const {
         if (tramo.Longitud == 0) return {};

@@ -8,7 +8,9 @@ namespace analizador {
 
 namespace {
 
-bool EsContinuacionUtf8(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80; }
+bool EsContinuacionUtf8(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80;
+}
 
 // The name without its first two characters.
 std::u8string SinDosPrimeros(std::u8string nombre) {

@@ -55,7 +55,6 @@ class TCompositor {
     }
 
   private:
-
     void Procesa(std::size_t i) {
         const auto& suceso = Sucesos[i];
         switch (suceso.Tipo) {
@@ -64,12 +63,18 @@ class TCompositor {
             case TipoSuceso::FinCampo:
                 if (Completos[i]) Campo(suceso.Tipo);
                 return;
-            case TipoSuceso::InicioMarcador: return AbreMarcador(suceso.Nodo);
-            case TipoSuceso::FinMarcador: return CierraMarcador(suceso.Nodo);
-            case TipoSuceso::InicioFila: return IniciaFila(i);
-            case TipoSuceso::FinFila: return TerminaFila(i);
-            case TipoSuceso::InicioCelda: return Celdas.push_back(Hecho.Texto.size());
-            case TipoSuceso::FinCelda: return TerminaCelda(i);
+            case TipoSuceso::InicioMarcador:
+                return AbreMarcador(suceso.Nodo);
+            case TipoSuceso::FinMarcador:
+                return CierraMarcador(suceso.Nodo);
+            case TipoSuceso::InicioFila:
+                return IniciaFila(i);
+            case TipoSuceso::FinFila:
+                return TerminaFila(i);
+            case TipoSuceso::InicioCelda:
+                return Celdas.push_back(Hecho.Texto.size());
+            case TipoSuceso::FinCelda:
+                return TerminaCelda(i);
             default:
                 if (EsVisible(i)) ProcesaVisible(i);
         }
@@ -80,13 +85,17 @@ class TCompositor {
     void ProcesaVisible(std::size_t i) {
         const auto& suceso = Sucesos[i];
         switch (suceso.Tipo) {
-            case TipoSuceso::Texto: return Texto(i);
-            case TipoSuceso::Caracter: return Emite(i, {&suceso.Caracter, 1}, true);
-            case TipoSuceso::FinParrafo: return Emite(i, {&FIN_PARRAFO, 1}, false);
+            case TipoSuceso::Texto:
+                return Texto(i);
+            case TipoSuceso::Caracter:
+                return Emite(i, {&suceso.Caracter, 1}, true);
+            case TipoSuceso::FinParrafo:
+                return Emite(i, {&FIN_PARRAFO, 1}, false);
             case TipoSuceso::FinCuerpo:
                 if (Abierto || !Hecho.Texto.ends_with(FIN_PARRAFO)) Emite(i, {&FIN_PARRAFO, 1}, false);
                 return;
-            default: return;
+            default:
+                return;
         }
     }
 
@@ -187,10 +196,10 @@ class TCompositor {
     const std::vector<TSuceso>& Sucesos;
     std::vector<bool> Completos;
     TComposicion Hecho;
-    bool Abierto = false;  // the text ends in the middle of a paragraph
+    bool Abierto = false;              // the text ends in the middle of a paragraph
     std::vector<bool> FilasConCeldas;  // of each open row, whether any of its cells counts
-    std::vector<std::size_t> Celdas;  // length of the text where each open cell began
-    std::vector<bool> EnCodigo;       // of each open field, whether its result is still to come
+    std::vector<std::size_t> Celdas;   // length of the text where each open cell began
+    std::vector<bool> EnCodigo;        // of each open field, whether its result is still to come
     int CodigosAbiertos = 0;
     std::vector<TMarcador> Leidos;
     std::vector<bool> Cerrados;

@@ -153,8 +153,7 @@ class TNormalizador {
     void Renombra(pugi::xml_node nodo) {
         const auto [prefijo, local] = Parte(nodo.name());
         char clase = ClaseDe(prefijo);
-        if (clase == COMPATIBILIDAD && local == "Choice" &&
-            !EsEntendido(nodo.attribute("Requires").value()))
+        if (clase == COMPATIBILIDAD && local == "Choice" && !EsEntendido(nodo.attribute("Requires").value()))
             clase = AJENO;
         PonNombre(nodo, clase, local);
         for (const auto atributo : nodo.attributes()) RenombraAtributo(atributo);

@@ -132,11 +132,20 @@ std::string EscapaAtributo(std::string_view texto) {
     std::string escapado;
     for (const char c : texto) {
         switch (c) {
-            case '&': escapado += "&amp;"; break;
-            case '<': escapado += "&lt;"; break;
-            case '>': escapado += "&gt;"; break;
-            case '"': escapado += "&quot;"; break;
-            default: escapado += c;
+            case '&':
+                escapado += "&amp;";
+                break;
+            case '<':
+                escapado += "&lt;";
+                break;
+            case '>':
+                escapado += "&gt;";
+                break;
+            case '"':
+                escapado += "&quot;";
+                break;
+            default:
+                escapado += c;
         }
     }
     return escapado;

@@ -20,7 +20,8 @@ namespace {
 std::string NombreParaMensaje(const std::filesystem::path& fichero) {
     const auto utf8 = fichero.u8string();
     std::string nombre(utf8.begin(), utf8.end());
-    std::ranges::replace_if(nombre, [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
+    std::ranges::replace_if(
+        nombre, [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
     return nombre;
 }
 

@@ -44,12 +44,11 @@ class TIdentificadores {
     }
 
     std::unordered_set<int> Usados;
-    int Siguiente = 0;
+    int Siguiente = 1;
 };
 
 // The bookmarks' elements that bear one of `nombres` (upper case), starts and ends.
-std::vector<pugi::xml_node> ElementosDe(const std::unordered_set<std::string>& nombres,
-                                        pugi::xml_node raiz) {
+std::vector<pugi::xml_node> ElementosDe(const std::unordered_set<std::string>& nombres, pugi::xml_node raiz) {
     std::vector<pugi::xml_node> elementos;
     std::unordered_map<std::string_view, bool> abiertos;  // by identifier: whether it goes
     for (auto nodo = raiz; nodo; nodo = NodoSiguiente(nodo, raiz)) {

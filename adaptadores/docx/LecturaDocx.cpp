@@ -25,8 +25,8 @@ std::vector<TVariable> LeeVariables(TPaqueteZip& paquete, const TPartesDocx& par
     if (!partes.Ajustes) return variables;
     const TArbolXml arbol(LeeXml(paquete, *partes.Ajustes).Utf8, *partes.Ajustes);
     for (const auto variable : arbol.Raiz().child("docVars").children("docVar"))
-        variables.push_back({AnsiDeUtf8(variable.attribute("name").value()),
-                             AnsiDeUtf8(variable.attribute("val").value())});
+        variables.push_back(
+            {AnsiDeUtf8(variable.attribute("name").value()), AnsiDeUtf8(variable.attribute("val").value())});
     return variables;
 }
 

@@ -14,9 +14,9 @@ namespace analizador {
 
 namespace {
 
-constexpr std::string_view RELACIONES = "http://schemas.openxmlformats.org/officeDocument/2006/relationships/";
-constexpr std::string_view RELACIONES_ESTRICTAS =
-    "http://purl.oclc.org/ooxml/officeDocument/relationships/";
+constexpr std::string_view RELACIONES =
+    "http://schemas.openxmlformats.org/officeDocument/2006/relationships/";
+constexpr std::string_view RELACIONES_ESTRICTAS = "http://purl.oclc.org/ooxml/officeDocument/relationships/";
 
 bool EsRelacion(std::string_view tipo, std::string_view clase) {
     for (const auto base : {RELACIONES, RELACIONES_ESTRICTAS})

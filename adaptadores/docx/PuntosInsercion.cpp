@@ -34,11 +34,16 @@ class TBuscador {
         const auto& fuente = *(siguiente - 1);
         const auto& suceso = Lectura.Sucesos[fuente.Suceso];
         switch (suceso.Tipo) {
-            case TipoSuceso::Texto: return EnTexto(suceso, posicion - fuente.Inicio);
-            case TipoSuceso::Caracter: return AnteElemento(suceso.Nodo);
-            case TipoSuceso::InicioFila: return Ante(suceso.Nodo, suceso.Nodo.parent());
-            case TipoSuceso::FinCuerpo: return AlFinalDelCuerpo(suceso.Nodo);
-            default: return AlFinalDe(suceso.Nodo);
+            case TipoSuceso::Texto:
+                return EnTexto(suceso, posicion - fuente.Inicio);
+            case TipoSuceso::Caracter:
+                return AnteElemento(suceso.Nodo);
+            case TipoSuceso::InicioFila:
+                return Ante(suceso.Nodo, suceso.Nodo.parent());
+            case TipoSuceso::FinCuerpo:
+                return AlFinalDelCuerpo(suceso.Nodo);
+            default:
+                return AlFinalDe(suceso.Nodo);
         }
     }
 

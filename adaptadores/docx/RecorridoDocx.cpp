@@ -132,9 +132,8 @@ class TRecorrido {
         Hijos(parrafo, interior);
 
         const auto deMarca = propiedades.child("rPr");
-        const bool marcaOculta =
-            EstaActivo(deMarca.child("specVanish")) ||
-            Estilos.EsOculto(deMarca, interior.TablaOculta, interior.ParrafoOculto);
+        const bool marcaOculta = EstaActivo(deMarca.child("specVanish")) ||
+                                 Estilos.EsOculto(deMarca, interior.TablaOculta, interior.ParrafoOculto);
         Anota(TipoSuceso::FinParrafo, parrafo, !contexto.Fuera && !marcaOculta && !EstaBorrado(deMarca));
     }
 
@@ -193,8 +192,8 @@ class TRecorrido {
         for (auto i = Sucesos.size(); i > primero; --i) {
             auto& suceso = Sucesos[i - 1];
             const auto letra = std::string_view(suceso.Nodo.value()).find_last_not_of(BLANCOS);
-            suceso.Hasta = letra == std::string_view::npos ? suceso.Desde
-                                                           : static_cast<std::uint32_t>(letra + 1);
+            suceso.Hasta =
+                letra == std::string_view::npos ? suceso.Desde : static_cast<std::uint32_t>(letra + 1);
             if (letra != std::string_view::npos) break;
         }
     }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <pugixml.hpp>
 #include <cstdint>
+#include <pugixml.hpp>
 #include <vector>
 
 #include "adaptadores/docx/EstilosDocx.h"

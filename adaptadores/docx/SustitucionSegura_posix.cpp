@@ -25,14 +25,20 @@ constexpr std::size_t TROZO_MAXIMO = 1U << 30;
 std::string CausaDeErrno(int error) {
     switch (error) {
         case EACCES:
-        case EPERM: return "no hay permiso para escribir en la carpeta";
-        case EROFS: return "el disco es de solo lectura";
+        case EPERM:
+            return "no hay permiso para escribir en la carpeta";
+        case EROFS:
+            return "el disco es de solo lectura";
         case ENOSPC:
-        case EDQUOT: return "no queda sitio en el disco";
-        case EFBIG: return "el fichero pasa del tamaño que el sistema permite";
+        case EDQUOT:
+            return "no queda sitio en el disco";
+        case EFBIG:
+            return "el fichero pasa del tamaño que el sistema permite";
         case ENOENT:
-        case ENOTDIR: return "la carpeta no existe";
-        default: return std::system_category().message(error);
+        case ENOTDIR:
+            return "la carpeta no existe";
+        default:
+            return std::system_category().message(error);
     }
 }
 

@@ -91,8 +91,7 @@ std::string CodificacionDeclarada(std::string_view texto) {
 
 void ExigeUtf8(std::string_view texto, const std::string& parte) {
     const auto nombre = CodificacionDeclarada(texto);
-    if (nombre.empty() || nombre == "utf-8" || nombre == "utf8" || nombre == "us-ascii" ||
-        nombre == "utf-16")
+    if (nombre.empty() || nombre == "utf-8" || nombre == "utf8" || nombre == "us-ascii" || nombre == "utf-16")
         return;
     throw FalloDocx("la parte «" + parte + "» usa una codificación de texto que no se admite");
 }

@@ -89,7 +89,7 @@ TEST_F(RutasAnalizador, SonLasDelProgramaMientrasNadieDigaOtraCosa) {
 
 TEST_F(RutasAnalizador, CuelganDeLaCarpetaDelPrograma) {
     const auto separador = std::string(1, static_cast<char>(std::filesystem::path::preferred_separator));
-    for (const std::string carpeta : {std::string("casa"), "casa" + separador}) {
+    for (const auto& carpeta : {std::string("casa"), "casa" + separador}) {
         PonCarpetaAplicacion(carpeta);
         EXPECT_EQ(Rutas().PATH_APLICACION.string(), "casa" + separador);
         EXPECT_EQ(Rutas().PATH_TOKEN_AP.string(), "casa" + separador + "CONFIG" + separador);
