@@ -38,8 +38,10 @@ void ExigeVocabulario(const fs::path& fichero) {
 TConfigIni LeeConfig(const std::optional<fs::path>& config) {
     const fs::path aplicacion = CarpetaAplicacion();
     PonCarpetaAplicacion(aplicacion);
-    if (config) PonCarpetaTokens(*config);
-    ExigeCarpeta(Rutas().PATH_TOKEN_AP);
+    if (config) {
+        ExigeCarpeta(*config);
+        PonCarpetaTokens(*config);
+    }
     ExigeVocabulario(Rutas().CASTELLANO_INI);
     ExigeVocabulario(Rutas().CATALAN_INI);
     return {Rutas().PATH_TOKEN_AP / "OFICINA.INI", aplicacion};

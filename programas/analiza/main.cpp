@@ -48,35 +48,29 @@ void Declara(CLI::App& aplicacion, TOpciones& opciones) {
         ->option_text("CARPETA");
     aplicacion.add_option("--tablas", opciones.Tablas, "Carpeta de las tablas de referencia")
         ->option_text("CARPETA");
-    auto* const guarda = aplicacion.add_flag("--guarda", opciones.Guarda,
-                                             "Guarda en cada fichero los marcadores de sus secciones");
+    aplicacion.add_flag("--guarda", opciones.Guarda,
+                        "Guarda en cada fichero los marcadores de sus secciones");
     aplicacion
         .add_option("--salida", opciones.Salida, "Guarda el documento con los marcadores en otro fichero")
-        ->option_text("FICHERO")
-        ->excludes(guarda);
-    aplicacion.add_flag(
-        "--forzar", opciones.Forzar,
-        "Con --guarda o --salida: guarda aunque otro programa tenga abierto el documento, o aunque se "
-        "rompa su firma");
+        ->option_text("FICHERO");
+    aplicacion.add_flag("--forzar", opciones.Forzar,
+                        "Guarda aunque otro programa lo tenga abierto o esté firmado");
 }
 
-// The option that the parser's message begins with, or "una opción".
-std::string OpcionDe(const CLI::ParseError& error) {
-    const std::string mensaje = error.what();
-    return mensaje.starts_with("--") ? mensaje.substr(0, mensaje.find_first_of(": ")) : "una opción";
+// The parser's messages begin with the option that they are about.
+std::string PrimeraPalabra(const std::string& mensaje) {
+    return mensaje.substr(0, mensaje.find_first_of(": "));
 }
 
 // What is wrong with the call, in the user's language.
 std::string CausaDeMalUso(const CLI::App& aplicacion, const CLI::ParseError& error) {
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
         return "falta el fichero que se quiere analizar";
-    if (dynamic_cast<const CLI::ExcludesError*>(&error) != nullptr)
-        return "--guarda y --salida no van juntas";
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr)
-        return "a " + OpcionDe(error) + " le falta su valor";
+        return "a " + PrimeraPalabra(error.what()) + " le falta su valor";
     if (const auto sobran = aplicacion.remaining(); !sobran.empty())
         return "no se conoce la opción " + sobran.front();
-    return "no se entiende " + OpcionDe(error);
+    return "una opción tiene un valor que no se entiende";
 }
 
 // What was printed before comes first where both go to one place.
@@ -111,6 +105,7 @@ bool Procesa(const fs::path& fichero, const TOpciones& opciones) {
 }
 
 int Ejecuta(const TOpciones& opciones) {
+    if (opciones.Salida && opciones.Guarda) return MalUso("--guarda y --salida no van juntas");
     if (opciones.Salida && opciones.Ficheros.size() > 1)
         return MalUso("con --salida se analiza un solo fichero");
     try {

@@ -52,7 +52,7 @@ TEST(FicherosAnaliza, CadaFicheroMaloDiceSuCausa) {
         {"viejo.doc", viejo, "(.doc)"},
         {"cortado.docx", docx.substr(0, docx.size() / 2), "truncado o dañado"},
         {"sin final.docx", docx.substr(0, docx.size() - 1), "truncado o dañado"},
-        {"sin principio.docx", docx.substr(docx.size() / 2), "dañad"},
+        {"sin principio.docx", docx.substr(docx.size() / 2), "no es un documento de Word"},
     };
     for (const auto& caso : casos) EsperaRechazo(carpeta.Fichero(caso.Nombre, caso.Contenido), caso.Causa);
 }

@@ -18,8 +18,9 @@ using testing::StartsWith;
 constexpr const char* EJEMPLO = "compraventa";
 
 std::vector<std::string> Marcadores(const std::filesystem::path& docx) {
+    const TFicheroDocx fichero(docx);
     std::vector<std::string> nombres;
-    for (const auto& marcador : TFicheroDocx(docx).Contenido().Marcadores) nombres.push_back(marcador.Nombre);
+    for (const auto& marcador : fichero.Contenido().Marcadores) nombres.push_back(marcador.Nombre);
     return nombres;
 }
 

@@ -40,7 +40,7 @@ TEST(UsoAnaliza, UnaLlamadaEquivocadaSeExplicaEnUnaLinea) {
         {{"--guarda", "--salida", "b.docx", "a.docx"}, "--guarda y --salida no van juntas"},
         {{"--salida", "b.docx", "--guarda", "a.docx"}, "--guarda y --salida no van juntas"},
         {{"--salida", "c.docx", "a.docx", "b.docx"}, "con --salida se analiza un solo fichero"},
-        {{"--json=quizá", "a.docx"}, "no se entiende"},
+        {{"--json=quizá", "a.docx"}, "una opción tiene un valor que no se entiende"},
     };
     for (const auto& caso : casos) {
         SCOPED_TRACE(testing::PrintToString(caso.Argumentos));
@@ -104,6 +104,9 @@ TEST(UsoAnaliza, UnaConfiguracionImposibleNombraSuFichero) {
 
 TEST(UsoAnaliza, UnaTablaQueFaltaSeNombraConSuCarpeta) {
     const TCarpetaTemporal carpeta;
+    for (const auto& tabla : std::filesystem::directory_iterator(CARPETA_TABLAS))
+        if (tabla.path().filename() != "AYUNTAM.DBF")
+            std::filesystem::copy_file(tabla, carpeta.Ruta() / tabla.path().filename());
     const auto ejecucion = Analiza({"--tablas", carpeta.Ruta(), Ejemplo("compraventa")});
     EXPECT_EQ(ejecucion.Codigo, 1);
     EXPECT_EQ(ejecucion.Salida, "");
