@@ -16,7 +16,7 @@ namespace {
 
 TEST(TraduceCaracteresExtranosDeWord, LosDoscientosCincuentaYSeisBytes) {
     std::map<unsigned char, std::string> cambios;
-    const auto pasanA = [&](std::string_view signos, const char* plano) {
+    const auto pasanA = [&](std::string_view signos, const std::string& plano) {
         for (const char c : signos) cambios[static_cast<unsigned char>(c)] = plano;
     };
     pasanA("“”„«»‹›"_ansi, "\"");
