@@ -57,14 +57,15 @@ class TTabla {
     // Changes the active index ("" for the stored order), cancels the range and goes to the first row.
     virtual void Indexa(std::string_view indice) = 0;
 
-    // Goes to the first row of the range whose key equals `clave`; when there is none goes to the end and
-    // returns false. Keys are equal when they are equal folded; blanks on the right never matter; an empty
-    // text equals only an empty field.
+    // Goes to the first row of the range whose key equals `clave`; when there is none, or no active index,
+    // goes to the end and returns false. Keys are equal when they are equal folded; blanks on the right never
+    // matter; an empty text equals only an empty field.
     virtual bool Busca(TClave clave) = 0;
 
     // Restricts the table to the rows whose keys lie between the two, both included, and goes to the first.
     // True when there is an active index, also when no row is in the range.
     virtual bool Rango(TClave desde, TClave hasta) = 0;
+    // Ends the range and goes to the first row.
     virtual void CancelaRango() = 0;
 
     // Keeps only the rows whose whole-number field fulfils the condition "FIELD=n" or "FIELD<>n"; "" ends the

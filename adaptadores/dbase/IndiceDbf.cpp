@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <numeric>
+#include <bit>
 #include <optional>
 
 #include "adaptadores/dbase/ValoresDbf.h"
@@ -64,28 +64,43 @@ bool EsNumero(const TCampoDbf& campo) {
            campo.Clase != TClaseCampo::Vacio;
 }
 
-class TOrdenFilas {
-  public:
-    TOrdenFilas(const TDatosDbf& datos, const std::vector<const TCampoDbf*>& campos)
-        : datos_(datos), campos_(campos) {}
+constexpr std::size_t ANCHO_NUMERO = 9;
 
-    // The first bytes of the folded key: where they differ, so do the keys.
+std::size_t AnchoOrdenable(const TCampoDbf& campo) {
+    return EsNumero(campo) ? ANCHO_NUMERO : campo.Longitud;
+}
+
+// Bytes that compare as the numbers do, the empty one first.
+void PonNumero(std::optional<double> numero, char* destino) {
+    constexpr std::uint64_t SIGNO = std::uint64_t{1} << 63U;
+    if (!numero) return;
+    const auto bits = std::bit_cast<std::uint64_t>(*numero + 0.0);  // one zero alone
+    const std::uint64_t ordenado = (bits & SIGNO) != 0 ? ~bits : bits | SIGNO;
+    destino[0] = 1;
+    for (std::size_t i = 1; i < ANCHO_NUMERO; ++i)
+        destino[i] = static_cast<char>(ordenado >> 8U * (ANCHO_NUMERO - 1 - i));
+}
+
+// The folded key of every row, side by side, so that comparing two is comparing their bytes.
+class TClavesOrdenables {
+  public:
+    TClavesOrdenables(const TDatosDbf& datos, const std::vector<const TCampoDbf*>& campos)
+        : datos_(datos), campos_(campos) {
+        for (const TCampoDbf* campo : campos_) ancho_ += AnchoOrdenable(*campo);
+        claves_.resize(ancho_ * datos_.Filas(), '\0');
+        for (std::uint32_t fila = 0; fila < datos_.Filas(); ++fila) Pon(fila);
+    }
+
+    // The key's first bytes as a number that compares as they do.
     [[nodiscard]] std::uint64_t Prefijo(std::uint32_t fila) const {
         std::uint64_t prefijo = 0;
-        std::size_t bytes = 0;
-        for (const TCampoDbf* campo : campos_) {
-            if (EsNumero(*campo)) break;
-            for (const char c : datos_.Bytes(fila, *campo)) {
-                if (bytes++ == sizeof prefijo) return prefijo;
-                prefijo = prefijo << 8U | Plegado(c);
-            }
-        }
-        return bytes == 0 ? 0 : prefijo << 8U * (sizeof prefijo - std::min(bytes, sizeof prefijo));
+        for (std::size_t i = 0; i < sizeof prefijo; ++i)
+            prefijo = prefijo << 8U | (i < ancho_ ? static_cast<unsigned char>(Clave(fila)[i]) : 0U);
+        return prefijo;
     }
 
     [[nodiscard]] bool Antes(std::uint32_t a, std::uint32_t b) const {
-        for (const TCampoDbf* campo : campos_)
-            if (const int orden = Compara(a, b, *campo); orden != 0) return orden < 0;
+        if (const int orden = Clave(a).compare(Clave(b)); orden != 0) return orden < 0;
         for (const TCampoDbf* campo : campos_)
             if (const int orden = datos_.Bytes(a, *campo).compare(datos_.Bytes(b, *campo)); orden != 0)
                 return orden < 0;
@@ -93,13 +108,29 @@ class TOrdenFilas {
     }
 
   private:
-    [[nodiscard]] int Compara(std::uint32_t a, std::uint32_t b, const TCampoDbf& campo) const {
-        return EsNumero(campo) ? ComparaNumeros(datos_.Numero(a, campo), datos_.Numero(b, campo))
-                               : ComparaTextos(datos_.Bytes(a, campo), datos_.Bytes(b, campo));
+    [[nodiscard]] std::string_view Clave(std::uint32_t fila) const {
+        return {claves_.data() + fila * ancho_, ancho_};
+    }
+
+    void Pon(std::uint32_t fila) {
+        char* destino = claves_.data() + fila * ancho_;
+        const std::array<unsigned char, 256>& plegados = Plegados();
+        for (const TCampoDbf* campo : campos_) {
+            const std::string_view bytes = datos_.Bytes(fila, *campo);
+            if (EsNumero(*campo))
+                PonNumero(datos_.Numero(fila, *campo), destino);
+            else
+                std::transform(bytes.begin(), bytes.end(), destino, [&](char c) {
+                    return static_cast<char>(plegados[static_cast<unsigned char>(c)]);
+                });
+            destino += AnchoOrdenable(*campo);
+        }
     }
 
     const TDatosDbf& datos_;
     const std::vector<const TCampoDbf*>& campos_;
+    std::size_t ancho_ = 0;
+    std::string claves_;
 };
 
 }  // namespace
@@ -152,12 +183,12 @@ int TClaveDbf::ComparaParte(std::uint32_t fila, const TCampoDbf& campo, const TP
 
 TIndiceDbf::TIndiceDbf(const TDatosDbf& datos, const std::vector<std::string>& campos) {
     for (const std::string& campo : campos) campos_.push_back(&datos.Campo(campo));
-    const TOrdenFilas orden(datos, campos_);
+    const TClavesOrdenables claves(datos, campos_);
     std::vector<std::pair<std::uint64_t, std::uint32_t>> filas;
     filas.reserve(datos.Filas());
-    for (std::uint32_t fila = 0; fila < datos.Filas(); ++fila) filas.emplace_back(orden.Prefijo(fila), fila);
+    for (std::uint32_t fila = 0; fila < datos.Filas(); ++fila) filas.emplace_back(claves.Prefijo(fila), fila);
     std::sort(filas.begin(), filas.end(), [&](const auto& a, const auto& b) {
-        return a.first != b.first ? a.first < b.first : orden.Antes(a.second, b.second);
+        return a.first != b.first ? a.first < b.first : claves.Antes(a.second, b.second);
     });
     orden_.reserve(filas.size());
     for (const auto& fila : filas) orden_.push_back(fila.second);
