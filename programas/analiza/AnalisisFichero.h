@@ -11,8 +11,9 @@
 namespace analizador {
 
 struct TOpcionesAnalisis {
-    std::optional<std::filesystem::path> Salida;  // where to save the document with its section bookmarks; none: nowhere
-    bool Forzar = false;                          // save even a document that another program has open
+    std::optional<std::filesystem::path>
+        Salida;           // where to save the document with its section bookmarks; none: nowhere
+    bool Forzar = false;  // save even a document that another program has open
 };
 
 // A deed file analysed: the session with its results, or why it could not be.
@@ -24,8 +25,8 @@ class TAnalisisFichero {
     // One line of Castilian in UTF-8 that names file and cause; empty when all went well.
     [[nodiscard]] const std::string& Error() const { return FError; }
 
-    // The session, only without an error. The current token file of this thread is that of the deed until the next
-    // analysis.
+    // The session, only without an error. The current token file of this thread is that of the deed until the
+    // next analysis.
     [[nodiscard]] const TClassAnalizadorAbierto& Sesion() const { return *FSesion; }
 
     // The deed as it was analysed, for where facts were read. Only without an error.

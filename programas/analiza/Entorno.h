@@ -13,10 +13,11 @@ namespace analizador {
 // The suite as a stand-alone office has it, installed for as long as this object lives.
 class TEntorno {
   public:
-    // `config`: the folder of the token files and OFICINA.INI; by default CONFIG beside the program, else in its
-    // installed share folder. `tablas`: the folder of the reference tables; by default the one that OFICINA.INI says.
-    // Throws ErrorConfiguracion.
-    TEntorno(const std::optional<std::filesystem::path>& config, const std::optional<std::filesystem::path>& tablas);
+    // `config`: the folder of the token files and OFICINA.INI; by default CONFIG beside the program, else in
+    // its installed share folder. `tablas`: the folder of the reference tables; by default the one that
+    // OFICINA.INI says. Throws ErrorConfiguracion.
+    TEntorno(const std::optional<std::filesystem::path>& config,
+             const std::optional<std::filesystem::path>& tablas);
 
   private:
     TConfigIni FConfig;

@@ -6,8 +6,8 @@
 
 namespace analizador {
 
-// The report for a terminal, in UTF-8 with plain line ends; after it the language and the amounts, which the report
-// leaves out.
+// The report for a terminal, in UTF-8 with plain line ends; after it the language and the amounts, which the
+// report leaves out.
 [[nodiscard]] std::string InformeTexto(const TClassAnalizadorAbierto& sesion);
 
 }  // namespace analizador
