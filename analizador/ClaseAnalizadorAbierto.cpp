@@ -142,7 +142,7 @@ void TClassAnalizadorAbierto::AnalizaFincas() {
 }
 
 void TClassAnalizadorAbierto::EliminaOtorgantesDuplicados() {
-    analizador::EliminaOtorgantesDuplicados(OtorgantesEncontrados, Otorgantes);
+    Otorgantes = UneOtorgantesDuplicados(OtorgantesEncontrados);
 }
 
 bool TClassAnalizadorAbierto::ListaConceptosPreseleccionados() {
