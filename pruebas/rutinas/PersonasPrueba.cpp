@@ -171,7 +171,8 @@ std::vector<TRPersona> BuscaPersonasConCopias(std::string_view parrafo) {
     for (TTratamiento t = BuscaTratamiento(texto); t.Posicion != 0; t = BuscaTratamiento(texto)) {
         const TToken notario = ContieneToken("NOTARIO DE", StrLeft(texto, t.Posicion - 1),
                                              {.Plegado = false, .PrimeraEntrada = true});
-        texto = texto.substr(std::min(texto.size(), t.Posicion + t.Tratamiento.size()));
+        texto =
+            texto.substr(std::min(texto.size(), static_cast<std::size_t>(t.Posicion) + t.Tratamiento.size()));
         const int coma = Pos(",", texto);
         const int siguiente = BuscaTratamiento(texto).Posicion;
         int fin = coma != 0 && (siguiente == 0 || coma < siguiente) ? coma : siguiente;
