@@ -12,6 +12,9 @@
 namespace analizador::pruebas {
 namespace {
 
+constexpr std::string_view ESCRITURA = "ESCRITURA_Nº"_ansi;
+constexpr std::string_view ENE = "Ñ"_ansi;
+
 std::string Inicio(int id, std::string_view nombre) {
     return "<w:bookmarkStart w:id=\"" + std::to_string(id) + "\" w:name=\"" + std::string(nombre) + "\"/>";
 }
@@ -95,7 +98,7 @@ TEST(GuardaDocx, SoloAnadeLosMarcadores) {
              "<w:r w:x=\"a>b\"><w:t xml:space=\"preserve\">a</w:t></w:r></w:p>"},
         {"a name outside ASCII",
          "<w:p/>",
-         {{std::string("ESCRITURA_Nº"_ansi), {0, 0}}},
+         {{std::string(ESCRITURA), {0, 0}}},
          "<w:p>" + Inicio(1, "ESCRITURA_Nº") + Fin(1) + "</w:p>"},
     };
     const TCarpeta carpeta;
@@ -304,7 +307,7 @@ TEST(GuardaDocx, RehusaMarcadoresImposibles) {
         {{"", {0, 1}}, "un marcador no tiene nombre"},
         {{"A\n", {0, 1}}, "caracteres de control"},
         {{std::string(41, 'A'), {0, 1}}, "demasiado largo"},
-        {{std::string("Ñ"_ansi), {-1, 1}}, "el marcador «Ñ» queda fuera del texto"},
+        {{std::string(ENE), {-1, 1}}, "el marcador «Ñ» queda fuera del texto"},
         {{"A", {2, 1}}, "queda fuera del texto"},
         {{"A", {0, 5}}, "queda fuera del texto"},
     };

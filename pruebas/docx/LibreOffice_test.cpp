@@ -18,6 +18,9 @@
 namespace analizador::pruebas {
 namespace {
 
+constexpr std::string_view NOMBRE = "MARÍA PÉREZ"_ansi;
+constexpr std::string_view MITAD = "RÍA PÉREZ"_ansi;
+
 bool HayLibreOffice() {
     const char* ruta = std::getenv("PATH");
     std::istringstream carpetas(ruta != nullptr ? ruta : "");
@@ -120,12 +123,12 @@ TEST_F(LibreOffice, VeElMismoTextoYLosMarcadoresEnSuSitio) {
     const std::vector<TMarcador> marcadores = {
         {"CABECERA", {0, en("COMPARECEN")}},
         {"COMPARECIENTES", {en("COMPARECEN"), en("Finca")}},
-        {"NOMBRE", de("MARÍA PÉREZ"_ansi)},
+        {"NOMBRE", de(NOMBRE)},
         {"TABULADOR", de("\tde")},
         {"LINEA", de("\vy otra &")},
         {"FINCA_1", de("urbana")},
         {"FINCA_2", de("000")},
-        {"VACIO", {en("RÍA"_ansi), en("RÍA"_ansi)}},
+        {"VACIO", {en(MITAD), en(MITAD)}},
         {"EXPONEN", {en("EXPONEN"), static_cast<int>(texto.size()) - 1}},
     };
     documento.Guarda(marcadores, Carpeta / "guardada.docx");

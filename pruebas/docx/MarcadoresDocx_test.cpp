@@ -20,7 +20,10 @@ static std::ostream& operator<<(std::ostream& salida, const TMarcador& marcador)
 namespace analizador::pruebas {
 namespace {
 
-// A start "<NAME " and an end ">" of the bookmark whose identifier is its first letter.
+constexpr std::string_view FINCA = "FINCA_ñ"_ansi;
+constexpr std::string_view NUNEZ = "Núñez & Cía"_ansi;
+
+// The start and the end of a bookmark, whose identifier is the code of its first letter.
 std::string Inicio(std::string_view nombre) {
     return "<w:bookmarkStart w:id=\"" + std::to_string(nombre.front()) + "\" w:name=\"" +
            std::string(nombre) + "\"/>";
@@ -68,7 +71,7 @@ TEST(MarcadoresDocx, SeLeenDondeEstan) {
          {{"B", {1, 1}}}},
         {"of two equal names in any case the first",
          "<w:p>" + Inicio("FINCA_ñ") + Fin("F") + Tirada("a") + Inicio("finca_Ñ") + Fin("f") + "</w:p>",
-         {{std::string("FINCA_ñ"_ansi), {0, 0}}}},
+         {{std::string(FINCA), {0, 0}}}},
         {"not those of a text box",
          "<w:p>" + Inicio("A") + "<w:r><w:pict><w:p>" + Inicio("B") + Fin("B") + "</w:p></w:pict></w:r>" +
              Fin("A") + "</w:p>",
@@ -90,8 +93,7 @@ TEST(MarcadoresDocx, LasVariablesDelDocumento) {
                                 DocumentoXml("<w:p/>"), "",
                                 "<w:docVars><w:docVar w:name=\"EMPLEADO\" w:val=\"Núñez &amp; Cía\"/>"
                                 "<w:docVar w:name=\"XML\" w:val=\"&lt;a/&gt;&#10;b\"/></w:docVars>")));
-    const std::vector<TVariable> esperadas = {{"EMPLEADO", std::string("Núñez & Cía"_ansi)},
-                                              {"XML", "<a/>\nb"}};
+    const std::vector<TVariable> esperadas = {{"EMPLEADO", std::string(NUNEZ)}, {"XML", "<a/>\nb"}};
     EXPECT_EQ(TFicheroDocx(fichero).Contenido().Variables, esperadas);
 }
 

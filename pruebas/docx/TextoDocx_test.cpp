@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,7 +18,7 @@ struct TCaso {
     std::string_view Texto;
 };
 
-void Comprueba(const std::vector<TCaso>& casos) {
+void Comprueba(std::span<const TCaso> casos) {
     const TCarpeta carpeta;
     const auto fichero = carpeta / "prueba.docx";
     for (const auto& caso : casos) {
@@ -28,7 +29,7 @@ void Comprueba(const std::vector<TCaso>& casos) {
 }
 
 TEST(TextoDocx, LosParrafosYSusCaracteres) {
-    Comprueba({
+    constexpr TCaso CASOS[] = {
         {"an empty body still has its last paragraph", "", "\r"_ansi},
         {"an empty paragraph", "<w:p/>", "\r"_ansi},
         {"two paragraphs", "<w:p><w:r><w:t>COMPARECEN</w:t></w:r></w:p><w:p><w:r><w:t>Uno</w:t></w:r></w:p>",
@@ -75,11 +76,12 @@ TEST(TextoDocx, LosParrafosYSusCaracteres) {
          "f=ab\r"_ansi},
         {"text outside runs, and unknown elements, are none",
          "<w:p>x<w:t>y</w:t><w:r>z<w:t>a</w:t><w:otro><w:t>b</w:t></w:otro></w:r></w:p>", "a\r"_ansi},
-    });
+    };
+    Comprueba(CASOS);
 }
 
 TEST(TextoDocx, LoQueEnvuelve) {
-    Comprueba({
+    constexpr TCaso CASOS[] = {
         {"containers of runs",
          "<w:p><w:hyperlink r:id=\"rId9\"><w:r><w:t>a</w:t></w:r></w:hyperlink><w:smartTag w:element=\"x\">"
          "<w:smartTagPr/><w:r><w:t>b</w:t></w:r></w:smartTag><w:customXml><w:r><w:t>c</w:t></w:r></"
@@ -122,11 +124,12 @@ TEST(TextoDocx, LoQueEnvuelve) {
          "</w:t></w:r></w:p></w:txbxContent></w:drawing></mc:Choice><mc:Fallback><w:pict/></mc:Fallback>"
          "</mc:AlternateContent><w:t>a</w:t></w:r></w:p>",
          "a\r"_ansi},
-    });
+    };
+    Comprueba(CASOS);
 }
 
 TEST(TextoDocx, LasTablas) {
-    Comprueba({
+    constexpr TCaso CASOS[] = {
         {"cells and rows have their marks, and a last paragraph is added",
          "<w:tbl><w:tblPr/><w:tr><w:tc><w:tcPr/><w:p><w:r><w:t>a</w:t></w:r></w:p></w:tc><w:tc><w:p/></"
          "w:tc></w:tr>"
@@ -172,7 +175,8 @@ TEST(TextoDocx, LasTablas) {
          "w:tc>"
          "</w:tr></w:tbl><w:p/>",
          "a\r\007\r\007\r"_ansi},
-    });
+    };
+    Comprueba(CASOS);
 }
 
 TEST(TextoDocx, LosCampos) {
@@ -218,14 +222,16 @@ TEST(TextoDocx, LosCampos) {
         EscribeDocumento(fichero, cuerpo(caso.Esbozo));
         EXPECT_EQ(Visible(TextoDe(fichero)), Visible(caso.Texto));
     }
-    Comprueba({{"a simple field gives its result",
-                "<w:p><w:fldSimple w:instr=\"DATE\"><w:fldData>AAAA</w:fldData><w:r><w:t>hoy</w:t></w:r>"
-                "</w:fldSimple></w:p>",
-                "hoy\r"_ansi}});
+    constexpr TCaso SIMPLE[] = {
+        {"a simple field gives its result",
+         "<w:p><w:fldSimple w:instr=\"DATE\"><w:fldData>AAAA</w:fldData><w:r><w:t>hoy</w:t></w:r>"
+         "</w:fldSimple></w:p>",
+         "hoy\r"_ansi}};
+    Comprueba(SIMPLE);
 }
 
 TEST(TextoDocx, LasRevisiones) {
-    Comprueba({
+    constexpr TCaso CASOS[] = {
         {"inserted and moved here in, deleted and moved away out",
          "<w:p><w:ins w:id=\"1\"><w:r><w:t>a</w:t></w:r><w:del "
          "w:id=\"2\"><w:r><w:delText>x</w:delText></w:r></w:del>"
@@ -255,7 +261,8 @@ TEST(TextoDocx, LasRevisiones) {
          "w:id=\"2\"><w:p><w:r><w:t>b</w:t></w:r>"
          "</w:p></w:del>",
          "a\r"_ansi},
-    });
+    };
+    Comprueba(CASOS);
 }
 
 TEST(TextoDocx, UnParrafoDeUnMillonDeLetrasEnMilesDeTiradas) {
