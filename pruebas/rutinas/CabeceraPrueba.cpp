@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "plataforma/Ansi.h"
 #include "plataforma/Rut.h"
 #include "pruebas/comun/ConfigDePrueba.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/TablasDePrueba.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
@@ -81,8 +81,8 @@ TEST_F(Cabecera, BuscaNumeroProtocolo) {
     const std::vector<TCaso> casos = {
         {CAS, "", 0, ""},
         {CAS, "MIL DOSCIENTOS CUATRO", 0, ""},
-        {CAS, "NÚMERO MIL DOSCIENTOS CUATRO.\r"_ansi, 1204, "MIL DOSCIENTOS CUATRO"},
-        {CAS, "Escritura número: mil doscientos cuatro. En Lugo"_ansi, 1204, "mil doscientos cuatro"},
+        {CAS, "NÚMERO MIL DOSCIENTOS CUATRO.\r"_a, 1204, "MIL DOSCIENTOS CUATRO"},
+        {CAS, "Escritura número: mil doscientos cuatro. En Lugo"_a, 1204, "mil doscientos cuatro"},
         {CAS, "NUMERO MIL DOSCIENTOS CUATRO", 1204, "MIL DOSCIENTOS CUATRO"},
         {CAS, "NUMERO 1204", 1204, "1204"},
         {CAS, "NUMERO\t1204", 204, "204"},
@@ -101,8 +101,8 @@ TEST_F(Cabecera, BuscaNumeroProtocolo) {
         {CAS, "NUMERO.", 0, ""},
         {CAS, "NUMERO DE ORDEN", 0, ""},
         // The number's language is the deed's.
-        {CAT, "NÚMERO DOS MIL VUIT."_ansi, 2008, "DOS MIL VUIT"},
-        {CAS, "NÚMERO DOS MIL VUIT."_ansi, 0, ""},
+        {CAT, "NÚMERO DOS MIL VUIT."_a, 2008, "DOS MIL VUIT"},
+        {CAS, "NÚMERO DOS MIL VUIT."_a, 0, ""},
     };
     for (const auto& caso : casos) {
         SCOPED_TRACE(caso.Texto);
@@ -119,11 +119,11 @@ class LugarFecha : public Cabecera {
         tablas_.Pon("AYUNTAM.DBF", {{"NOMBRE", "LUGAR", "ABREVIATUR"},
                                     {{"Fuera", "100", "FU"},
                                      {"Villanueva", "3", "VN"},
-                                     {std::string("Villanueva del Río"_ansi), "2", "VR"},
+                                     {std::string("Villanueva del Río"_a), "2", "VR"},
                                      {"Nueva", "10", "NU"},
                                      {"", "1", "VACIO"},
                                      {"Sin clave", "0", "SC"},
-                                     {std::string("Móstoles"_ansi), "5", "MO"}}});
+                                     {std::string("Móstoles"_a), "5", "MO"}}});
     }
 };
 
@@ -137,7 +137,7 @@ TEST_F(LugarFecha, BuscaLugarFecha) {
         std::string_view FechaLeida;
     };
     const std::vector<TCaso> casos = {
-        {"En Móstoles, a dos de enero de dos mil seis.\r"_ansi, 5, "MO", "Móstoles"_ansi, "02/01/2006",
+        {"En Móstoles, a dos de enero de dos mil seis.\r"_a, 5, "MO", "Móstoles"_a, "02/01/2006",
          "dos de enero de dos mil seis.\r"},
         {"EN MOSTOLES, A 2 DE ENERO DE 2.006, ANTE MI", 5, "MO", "MOSTOLES", "02/01/2006",
          "2 DE ENERO DE 2.006,"},
@@ -200,14 +200,14 @@ void CompruebaNotarios(const std::vector<TCasoNotario>& casos) {
 }
 
 TEST_F(Cabecera, BuscaNotarioDeLaLista) {
-    config_.Notarios = {"LUIS SANZ PUIG", std::string("Ana Gómez Mas"_ansi)};
+    config_.Notarios = {"LUIS SANZ PUIG", std::string("Ana Gómez Mas"_a)};
     config_.Nombre1 = "NADIE";
     CompruebaNotarios({
         {"", "", ""},
         {"COMPARECE DON LUIS SANZ PUIG, NOTARIO", "", ""},
         {"ANTE MI, LUIS SANZ PUIG, NOTARIO", "LUIS SANZ PUIG", ""},
         // The character behind the phrase goes, a comma here: the name is up to the next one.
-        {"Ante mí, don Luis Sanz Puig, notario"_ansi, "Luis Sanz Puig", ""},
+        {"Ante mí, don Luis Sanz Puig, notario"_a, "Luis Sanz Puig", ""},
         {"ANTE MI DON LUIS SANZ PUIG", "LUIS SANZ PUIG", ""},
         {"ANTE MI: DON LUIS SANZ PUIG Y OTRO\r", "LUIS SANZ PUIG Y OTRO", ""},
         {"ANTE MI, DO\xD1"
@@ -220,10 +220,10 @@ TEST_F(Cabecera, BuscaNotarioDeLaLista) {
         // The phrase that begins first.
         {"NOTARIO AUTORIZANTE DON LUIS SANZ, ANTE MI, OTRO", "LUIS SANZ", ""},
         // One of the office is never a substitute, whatever the case and the accents.
-        {"ANTE MI, ANA GÓMEZ MAS, COMO SUSTITUTO DE LUIS SANZ PUIG,"_ansi, "ANA GÓMEZ MAS"_ansi, ""},
+        {"ANTE MI, ANA GÓMEZ MAS, COMO SUSTITUTO DE LUIS SANZ PUIG,"_a, "ANA GÓMEZ MAS"_a, ""},
         // Another one is, and the notary is the first of the list named exactly as the list has it.
         {"ANTE MI, DON PAU ROS, SUSTITUTO DE DON LUIS SANZ PUIG", "LUIS SANZ PUIG", "PAU ROS"},
-        {"Ante mí, don Pau Ros, por sustitución de doña Ana Gómez Mas"_ansi, "Ana Gómez Mas"_ansi, "Pau Ros"},
+        {"Ante mí, don Pau Ros, por sustitución de doña Ana Gómez Mas"_a, "Ana Gómez Mas"_a, "Pau Ros"},
         {"ANTE MI, PAU ROS, SUSTITUTO DE Ana G\xF3mez Mas Y LUIS SANZ PUIG", "LUIS SANZ PUIG", "PAU ROS"},
         {"ANTE MI, PAU ROS, SUSTITUTO DE ANA GOMEZ MAS", "", "PAU ROS"},
         {"ANTE MI, PAU ROS, SUSTITUTO DE Luis Sanz Puig", "", "PAU ROS"},

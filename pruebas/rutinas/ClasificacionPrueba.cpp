@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "plataforma/Ansi.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
 #include "rutinas/RutAnalizador.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 const TSeccionesDePrueba SECCIONES = {
     {"HOMBRE", {"", "DON"}},
-    {"MUJER", {"DOÑA"_ansi}},
+    {"MUJER", {"DOÑA"_a}},
     {"REPRESENTACION", {"", "EN REPRESENTACION DE", "APODERADO"}},
 };
 
@@ -30,8 +30,8 @@ TEST_F(Clasificacion, EsCliente) {
         {" ", false},
         {"LA SOCIEDAD", false},
         {"DON LUIS SANZ", true},
-        {"y doña Ana Ros"_ansi, true},
-        {"y doÑa Ana Ros"_ansi, true},
+        {"y doña Ana Ros"_a, true},
+        {"y doÑa Ana Ros"_a, true},
         // A blank behind, whatever before.
         {"DON", false},
         {"DON\rLUIS", false},
@@ -50,7 +50,7 @@ TEST_F(Clasificacion, EsUnParrafoDeRepresentacion) {
         {"", false},
         {" ", false},
         {"DON LUIS SANZ", false},
-        {"Don Luis Sanz, en representación de"_ansi, true},
+        {"Don Luis Sanz, en representación de"_a, true},
         {"COMO APODERADO", true},
         {"COMO APODERADOS", true},
         // A blank before it, so never at the very start.

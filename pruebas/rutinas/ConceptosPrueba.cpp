@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "plataforma/Ansi.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/TablasDePrueba.h"
 #include "pruebas/comun/Tramos.h"
 #include "rutinas/RutAnalizador.h"
@@ -15,7 +15,7 @@ class Conceptos : public testing::Test {
         tablas_.Pon("TIPOS.DBF", {{"NOMBRE", "NUMEROTIPO", "COD_OFICIA", "PRESTAMO"},
                                   {{"PRESTAMO HIPOTECARIO", "12", "0201", "T"},
                                    {"COMPRAVENTA", "7", "0101", "F"},
-                                   {std::string("Cesión de créditos"_ansi), "3", "0301", "F"},
+                                   {std::string("Cesión de créditos"_a), "3", "0301", "F"},
                                    {"VENTA CON HIPOTECA ESCRITURA", "1", "0102", "F"},
                                    {"HIPOTECA", "2", "0202", "F"},
                                    {"ACTA DE FIN DE OBRA POR", "9", "0401", "F"}}});
@@ -44,8 +44,8 @@ TEST_F(Conceptos, BuscaConceptos) {
         // Whole words, folded on both sides.
         {"COMPRAVENTAS", {}, {}},
         {"compraventa", {"COMPRAVENTA"}, {"compraventa"}},
-        {"CESION", {std::string("Cesión de créditos"_ansi)}, {"CESION"}},
-        {"crédito y créditos"_ansi, {std::string("Cesión de créditos"_ansi)}, {std::string("créditos"_ansi)}},
+        {"CESION", {std::string("Cesión de créditos"_a)}, {"CESION"}},
+        {"crédito y créditos"_a, {std::string("Cesión de créditos"_a)}, {std::string("créditos"_a)}},
         // The first row of the table that has the word.
         {"HIPOTECA", {"VENTA CON HIPOTECA ESCRITURA"}, {"HIPOTECA"}},
         // In the order of the paragraph's words, each type once.

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "plataforma/Ansi.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
 #include "rutinas/Cif.h"
@@ -76,7 +76,7 @@ TEST_F(Documentos, ElTipoPorLasPalabrasDeDelante) {
     Comprueba({
         {"con 12345678", {{5, "12345678", "12345678"}}},
         {"con d.n.i. 12345678", {{1, "12345678", "12345678"}}},
-        {"Permís de residència 12345678"_ansi, {{3, "12345678", "12345678"}}},
+        {"Permís de residència 12345678"_a, {{3, "12345678", "12345678"}}},
         {"pasaporte AB123456", {{4, "AB123456", "AB123456"}}},
         // The nearest one.
         {"D.N.I. O PASAPORTE 12345678", {{4, "12345678", "12345678"}}},

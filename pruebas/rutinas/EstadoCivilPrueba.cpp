@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "plataforma/Ansi.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
 #include "rutinas/RutAnalizador.h"
@@ -44,10 +44,10 @@ TEST_F(EstadoCivil, BuscaEstadoCivil) {
         {"separada", 4, "separada", 0, ""},
         {"divorciado", 3, "divorciad", 0, ""},
         {"casado", 1, "casad", 4, ""},
-        {"cónyuges"_ansi, 1, "cónyuges"_ansi, 4, ""},
-        {"casado en régimen de separación de bienes"_ansi, 1, "casad", 2, "separación de bienes"_ansi},
+        {"cónyuges"_a, 1, "cónyuges"_a, 4, ""},
+        {"casado en régimen de separación de bienes"_a, 1, "casad", 2, "separación de bienes"_a},
         {"casados en gananciales", 1, "casad", 1, "ganancial"},
-        {"casados en participación"_ansi, 1, "casad", 3, "participación"_ansi},
+        {"casados en participación"_a, 1, "casad", 3, "participación"_a},
         // The order of the sections, not of the text.
         {"viuda, casada en segundas nupcias en gananciales", 2, "segundas nupcias", 1, "ganancial"},
         {"casado en segundas nupcias", 2, "segundas nupcias", 4, ""},
@@ -81,13 +81,13 @@ TEST_F(EstadoCivil, BuscaRegimenMatrimonial) {
     };
     const std::vector<TCaso> casos = {
         {"", 4, ""},
-        {"régimen legal"_ansi, 4, ""},
+        {"régimen legal"_a, 4, ""},
         {"Gananciales", 1, "Ganancial"},
-        {"separación de bienes"_ansi, 2, "separación de bienes"_ansi},
-        {"participación"_ansi, 3, "participación"_ansi},
+        {"separación de bienes"_a, 2, "separación de bienes"_a},
+        {"participación"_a, 3, "participación"_a},
         // The order of the sections, not of the text.
-        {"separación de bienes, antes gananciales"_ansi, 1, "ganancial"},
-        {"participación, antes separación de bienes"_ansi, 2, "separación de bienes"_ansi},
+        {"separación de bienes, antes gananciales"_a, 1, "ganancial"},
+        {"participación, antes separación de bienes"_a, 2, "separación de bienes"_a},
     };
     for (const auto& caso : casos) {
         SCOPED_TRACE(caso.Texto);

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "plataforma/Ansi.h"
 #include "plataforma/Rut.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
 #include "rutinas/RutAnalizador.h"
@@ -53,8 +53,8 @@ TEST_F(Intervenciones, BuscaIntervencionVenden) {
                   {"LUIS COMPRA", "LUIS", 1, 0},
                   {"LUIS COMPRA", "ANA", 99, 0},
                   // Folded both.
-                  {"Don Luís Peña vénde"_ansi, "LUIS peña"_ansi, 2, 4},
-                  {"Luis Pena vende", "LUIS PEÑA"_ansi, 99, 0},
+                  {"Don Luís Peña vénde"_a, "LUIS peña"_a, 2, 4},
+                  {"Luis Pena vende", "LUIS PEÑA"_a, 99, 0},
                   {"LUIS SANZ VENDE", "SANZ LUIS", 99, 0},
                   // The first entry of the section, not the first phrase of the text.
                   {"LUIS TRANSMITE A ANA QUE VENDE A PAU", "ANA", 2, 17},
@@ -77,7 +77,7 @@ TEST_F(Intervenciones, BuscaIntervencionParteDeudora) {
               {
                   {"", "LUIS", 99, 0},
                   {"PARTE DEUDORA: LUIS", "", 99, 0},
-                  {"LA PARTE DEUDORA, Luís"_ansi, "LUIS", 4, 18},
+                  {"LA PARTE DEUDORA, Luís"_a, "LUIS", 4, 18},
                   {"LUIS, PARTE DEUDORA", "LUIS", 99, 0},
                   {"LUIS Y EL DEUDOR, LUIS", "LUIS", 4, 18},
                   {"LUIS PIDE", "LUIS", 99, 0},

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "plataforma/Ansi.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
 #include "rutinas/RutAnalizador.h"
 
@@ -12,7 +12,7 @@ const TSeccionesDePrueba SECCIONES = {
     {"CON HUECO", {"UNO", "", "TRES"}},       {"NIE", {"N.I.E.", "TARJETA DE RESIDENCIA"}},
     {"ORDEN", {"VENDE", "COMPRA"}},           {"EMPATE", {"CASA", "CASADO"}},
     {"MAL ESCRITAS", {"vende", "ACCI\xD3N"}}, {"NUMEROS", {"DOS", "", "CIEN MIL"}},
-    {"LETRAS", {"SE\xD1ORA", "BARÇA"_ansi}},
+    {"LETRAS", {"SE\xD1ORA", "BARÇA"_a}},
 };
 
 class Palabras : public testing::Test {
@@ -69,14 +69,14 @@ TEST_F(Palabras, ContieneToken) {
         {"ORDEN", "", {}, {}},
         {"ORDEN", "nada de eso", {}, {}},
         // Folded, and the position counts in the text given.
-        {"ORDEN", "Don Luis vénde a"_ansi, {}, {10, "VENDE", 1}},
+        {"ORDEN", "Don Luis vénde a"_a, {}, {10, "VENDE", 1}},
         {"ORDEN", "Don Luis vende a", {.Plegado = false}, {}},
         {"ORDEN", "Don Luis VENDE a", {.Plegado = false}, {10, "VENDE", 1}},
-        {"ORDEN", "Don Luis VÉNDE a"_ansi, {.Plegado = false}, {}},
-        {"LETRAS", "la señora"_ansi, {}, {4, "SE\xD1ORA", 1}},
+        {"ORDEN", "Don Luis VÉNDE a"_a, {.Plegado = false}, {}},
+        {"LETRAS", "la señora"_a, {}, {4, "SE\xD1ORA", 1}},
         {"LETRAS", "la senora", {}, {}},
         {"LETRAS",
-         "el barça"_ansi,
+         "el barça"_a,
          {},
          {4,
           "BAR\xC7"
@@ -85,7 +85,7 @@ TEST_F(Palabras, ContieneToken) {
         // No word boundaries.
         {"ORDEN", "REVENDEDOR", {}, {3, "VENDE", 1}},
         // An entry that is not folded finds nothing.
-        {"MAL ESCRITAS", "vende una acción"_ansi, {}, {}},
+        {"MAL ESCRITAS", "vende una acción"_a, {}, {}},
         {"MAL ESCRITAS", "VENDE UNA ACCION", {}, {}},
         // A missing entry counts in the numbers and never matches.
         {"CON HUECO", "DOS", {}, {}},

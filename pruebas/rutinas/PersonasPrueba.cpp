@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "plataforma/Ansi.h"
 #include "plataforma/Rnumcad.h"
 #include "plataforma/Rut.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/TablasDePrueba.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
@@ -17,7 +17,7 @@ namespace {
 
 const TSeccionesDePrueba CASTELLANO = {
     {"HOMBRE", {"DON"}},
-    {"MUJER", {"DOÑA"_ansi}},
+    {"MUJER", {"DOÑA"_a}},
     {"NOTARIO DE", {"", "NOTARIO DE DON", "NOTARIO DE", "NOTARIO DON"}},
 };
 const TSeccionesDePrueba CATALAN = {{"HOMBRE", {"EL SENYOR"}}, {"MUJER", {"LA SENYORA"}}};
@@ -28,7 +28,7 @@ class Personas : public testing::Test {
         tablas_.Pon(
             "PILA.DBF",
             {{"NOMBRE"},
-             {{"JUAN"}, {"LUIS"}, {"MARIA"}, {"MARIA DEL MAR"}, {"MARIA JOSE"}, {std::string("ÑO"_ansi)}}});
+             {{"JUAN"}, {"LUIS"}, {"MARIA"}, {"MARIA DEL MAR"}, {"MARIA JOSE"}, {std::string("ÑO"_a)}}});
     }
 
     TVocabularioDePrueba vocabulario_{CASTELLANO, CATALAN};
@@ -46,15 +46,15 @@ TEST_F(Personas, SeparaNombreApellidos) {
         {"", "", ""},
         {" \t\r\n ", "", ""},
         {"JUAN", "", "JUAN"},
-        {"  Pérez \r"_ansi, "", "PEREZ"},
-        {"juan pérez ñoño"_ansi, "JUAN", "PEREZ ÑOÑO"_ansi},
+        {"  Pérez \r"_a, "", "PEREZ"},
+        {"juan pérez ñoño"_a, "JUAN", "PEREZ ÑOÑO"_a},
         // The longest run of words that is a first name.
         {"MARIA JOSE LOPEZ RUIZ", "MARIA JOSE", "LOPEZ RUIZ"},
         {"MARIA JOSEFA LOPEZ", "MARIA", "JOSEFA LOPEZ"},
-        {"María del Mar Gil"_ansi, "MARIA DEL MAR", "GIL"},
+        {"María del Mar Gil"_a, "MARIA DEL MAR", "GIL"},
         {"MARIA DEL GIL", "MARIA", "DEL GIL"},
         {"MARIA JOSE", "MARIA JOSE", ""},
-        {"ño Gil"_ansi, "ÑO"_ansi, "GIL"},
+        {"ño Gil"_a, "ÑO"_a, "GIL"},
         // No first name known: the first word.
         {"XOAN PEREZ GIL", "XOAN", "PEREZ GIL"},
         {"NO GIL", "NO", "GIL"},
@@ -107,12 +107,12 @@ TEST_F(Personas, BuscaPersonas) {
         {CAS, "", {}},
         {CAS, "LA SOCIEDAD", {}},
         {CAS,
-         "DON JUAN PEREZ GARCIA Y DOÑA MARIA JOSE LOPEZ RUIZ, mayores de edad"_ansi,
+         "DON JUAN PEREZ GARCIA Y DOÑA MARIA JOSE LOPEZ RUIZ, mayores de edad"_a,
          {{"H", "JUAN", "PEREZ GARCIA", "JUAN PEREZ GARCIA"},
           {"M", "MARIA JOSE", "LOPEZ RUIZ", "MARIA JOSE LOPEZ RUIZ"}}},
         {CAS,
-         "Comparecen: don Juan Pérez, casado, y doña María Gil, soltera\r"_ansi,
-         {{"H", "JUAN", "PEREZ", "Juan Pérez"_ansi}, {"M", "MARIA", "GIL", "María Gil"_ansi}}},
+         "Comparecen: don Juan Pérez, casado, y doña María Gil, soltera\r"_a,
+         {{"H", "JUAN", "PEREZ", "Juan Pérez"_a}, {"M", "MARIA", "GIL", "María Gil"_a}}},
         // Without a comma the name runs to the paragraph's end but for its last character.
         {CAS, "DON JUAN PEREZ\r", {{"H", "JUAN", "PEREZ", "JUAN PEREZ"}}},
         {CAS, "DON JUAN PEREZ", {{"H", "JUAN", "PERE", "JUAN PERE"}}},
@@ -138,7 +138,7 @@ TEST_F(Personas, BuscaPersonas) {
          "ANTE EL NOTARIO DE MADRID, DON LUIS SANZ, DON JUAN GIL, X",
          {{"H", "JUAN", "GIL", "JUAN GIL"}}},
         {CAS,
-         "DON JUAN GIL, ANTE EL NOTARIO DE LUGO DON LUIS SANZ Y DOÑA MARIA ROS, X"_ansi,
+         "DON JUAN GIL, ANTE EL NOTARIO DE LUGO DON LUIS SANZ Y DOÑA MARIA ROS, X"_a,
          {{"H", "JUAN", "GIL", "JUAN GIL"}, {"M", "MARIA", "ROS", "MARIA ROS"}}},
         // The words must stand wholly before the form of address: the longer entry does not, the other does.
         {CAS, "EL NOTARIO DON JUAN GIL, X", {{"H", "JUAN", "GIL", "JUAN GIL"}}},
@@ -171,7 +171,8 @@ std::vector<TRPersona> BuscaPersonasConCopias(std::string_view parrafo) {
     for (TTratamiento t = BuscaTratamiento(texto); t.Posicion != 0; t = BuscaTratamiento(texto)) {
         const TToken notario = ContieneToken("NOTARIO DE", StrLeft(texto, t.Posicion - 1),
                                              {.Plegado = false, .PrimeraEntrada = true});
-        texto = texto.substr(std::min(texto.size(), t.Posicion + t.Tratamiento.size()));
+        texto =
+            texto.substr(std::min(texto.size(), static_cast<std::size_t>(t.Posicion) + t.Tratamiento.size()));
         const int coma = Pos(",", texto);
         const int siguiente = BuscaTratamiento(texto).Posicion;
         int fin = coma != 0 && (siguiente == 0 || coma < siguiente) ? coma : siguiente;
@@ -188,9 +189,9 @@ std::vector<TRPersona> BuscaPersonasConCopias(std::string_view parrafo) {
 }
 
 TEST_F(Personas, LoMismoQueConCopias) {
-    const std::vector<std::string_view> trozos = {"DON ",   "CORDON ",    "JUAN ", "GIL",         ", ",
-                                                  " Y ",    "DOÑA "_ansi, "A",     "NOTARIO DE ", "\r",
-                                                  "MARIA ", "DONDON ",    " "};
+    const std::vector<std::string_view> trozos = {"DON ",   "CORDON ", "JUAN ", "GIL",         ", ",
+                                                  " Y ",    "DOÑA "_a, "A",     "NOTARIO DE ", "\r",
+                                                  "MARIA ", "DONDON ", " "};
     std::uint32_t semilla = 1;
     for (int vez = 0; vez < 400; ++vez) {
         std::string texto;

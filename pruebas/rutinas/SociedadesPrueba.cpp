@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
-#include "plataforma/Ansi.h"
 #include "plataforma/Rnumcad.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
 #include "rutinas/RutAnalizador.h"
@@ -16,7 +16,7 @@ namespace {
 
 const TSeccionesDePrueba CASTELLANO = {
     {"HOMBRE", {"DON"}},
-    {"MUJER", {"DOÑA"_ansi}},
+    {"MUJER", {"DOÑA"_a}},
     {"REPRESENTACION", {"EN REPRESENTACION DE", "", "EN NOMBRE"}},
 };
 const TSeccionesDePrueba CATALAN = {{"REPRESENTACION", {"EN NOM"}}};
@@ -52,9 +52,9 @@ TEST_F(Sociedades, BuscaSociedades) {
         {CAS, "B12345674, \"Uno\"", {{"Uno", ""}}},
         {CAS, "la sociedad \"\"", {{"", ""}}},
         // The name as the deed writes it.
-        {CAS, "en representación de \"Peñas y Más\"\r"_ansi, {{"Peñas y Más"_ansi, ""}}},
+        {CAS, "en representación de \"Peñas y Más\"\r"_a, {{"Peñas y Más"_a, ""}}},
         {CAS,
-         "en representación de \"Uno\", B12345674, y en nombre de \"Dos\", A58818501"_ansi,
+         "en representación de \"Uno\", B12345674, y en nombre de \"Dos\", A58818501"_a,
          {{"Uno", "B12345674"}, {"Dos", "A58818501"}}},
         // The code is looked for in all that follows.
         {CAS,
@@ -68,7 +68,7 @@ TEST_F(Sociedades, BuscaSociedades) {
         {CAS, "\"Uno\" en nombre propio", {}},
         // A person is represented.
         {CAS, "en nombre de don Luis Sanz y de \"Uno\"", {}},
-        {CAS, "en nombre de don Luis, y en representación de \"Uno\""_ansi, {{"Uno", ""}}},
+        {CAS, "en nombre de don Luis, y en representación de \"Uno\""_a, {{"Uno", ""}}},
         {CAS, "en nombre de \"Uno\" por don Luis", {{"Uno", ""}}},
         // Neither: the text is used up.
         {CAS, "en nombre propio, y en nombre de nadie", {}},

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "plataforma/Ansi.h"
 #include "plataforma/Rut.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
 #include "rutinas/RutAnalizador.h"
@@ -29,9 +29,9 @@ struct TCaso {
 
 const std::vector<TCaso> CASOS = {
     {"", 0, "", ' ', 0},
-    {"Juan Pérez"_ansi, 0, "", ' ', 0},
+    {"Juan Pérez"_a, 0, "", ' ', 0},
     {"don Juan", 1, "DON", 'H', 0},
-    {"doña Ana"_ansi, 1, "DOÑA"_ansi, 'M', 0},
+    {"doña Ana"_a, 1, "DOÑA"_a, 'M', 0},
     {"Comparece D. Juan", 11, "D.", 'H', 10},
     // A blank must follow.
     {"DON", 0, "", ' ', 0},
@@ -44,9 +44,9 @@ const std::vector<TCaso> CASOS = {
     {"\nDON Juan", 2, "DON", 'H', 1},
     {"UNO\rDON Juan", 5, "DON", 'H', 4},
     // The leftmost one; on a tie the section of men, and the earlier entry.
-    {"doña Ana y don Luis"_ansi, 1, "DOÑA"_ansi, 'M', 0},
-    {"don Luis y doña Ana"_ansi, 1, "DON", 'H', 0},
-    {"el señor don Luis"_ansi, 1, "EL", 'M', 0},
+    {"doña Ana y don Luis"_a, 1, "DOÑA"_a, 'M', 0},
+    {"don Luis y doña Ana"_a, 1, "DON", 'H', 0},
+    {"el señor don Luis"_a, 1, "EL", 'M', 0},
     {"el sr. Luis", 1, "EL SR.", 'H', 0},
     // After a false one the position counts in the cut text: here "DON " ends another word.
     {"CORDON DON LUIS", 2, "DON", 'H', 7},
@@ -55,7 +55,7 @@ const std::vector<TCaso> CASOS = {
     {"CORDON Y CORDON DON LUIS", 2, "DON", 'H', 16},
     {"CORDON SOLO", 0, "", ' ', 0},
     // The approximation decides which one is the nearest: the last DON is taken to stand at 2.
-    {"COMPARECE DOÑA ANA CORDON DON LUIS"_ansi, 2, "DON", 'H', 26},
+    {"COMPARECE DOÑA ANA CORDON DON LUIS"_a, 2, "DON", 'H', 26},
 };
 
 class Tratamiento : public testing::Test {
