@@ -3,6 +3,7 @@
 #include "modelo/TROtorgante.h"
 #include "plataforma/Ansi.h"
 #include "pruebas/comun/ConfigDePrueba.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/TablasDePrueba.h"
 
 namespace analizador {
@@ -84,7 +85,7 @@ const std::vector<TCaso> CASOS = {
     // By the municipality: a single row.
     {{"MADRID", "", "", ""}, {}, {"MADRID", "28001", "28079", "MADRID"}},
     {{"  SORIA ", "", "", ""}, {}, {"  SORIA ", "42001", "42173", "SORIA"}},
-    {{"SÓRIA"_ansi, "", "", ""}, {}, {"SÓRIA"_ansi, "42001", "42173", "SORIA"}},
+    {{"SÓRIA"_a, "", "", ""}, {}, {"SÓRIA"_a, "42001", "42173", "SORIA"}},
     // A known postal code is never replaced then, and it gives the province; an old code is.
     {{"MADRID", "42002", "", ""}, {}, {"MADRID", "42002", "28079", "SORIA"}},
     {{"MADRID", "", "99999", "X"}, {}, {"MADRID", "28001", "28079", "MADRID"}},

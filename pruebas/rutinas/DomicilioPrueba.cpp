@@ -3,6 +3,7 @@
 #include "analizador/ConstAnalizador.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Rut.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
 #include "rutinas/RutAnalizador.h"
@@ -15,7 +16,7 @@ namespace {
 TSeccionesDePrueba Secciones(std::vector<std::string_view> domicilios,
                              std::vector<std::string_view> palabrasDeCalle) {
     TSeccionesDePrueba secciones = {{"DOMICILIO", std::move(domicilios)},
-                                    {"NUMERO", {"NUMERO", "NUM.", "", "Nº"_ansi}}};
+                                    {"NUMERO", {"NUMERO", "NUM.", "", "Nº"_a}}};
     for (const std::string_view seccion : CONST_SECCION_TIPO_VIA) secciones.push_back({seccion, {seccion}});
     for (auto& [nombre, entradas] : secciones) {
         if (nombre == "CALLE") entradas = palabrasDeCalle;
@@ -46,9 +47,9 @@ void Comprueba(const TCaso& caso) {
 const std::vector<TCaso> CASOS = {
     {"", "", "", "", ""},
     {"VECINO DE MADRID, 5", "", "", "", ""},
-    {"VECINO DE 28001-MADRID, CON DOMICILIO EN LA CALLE DEL PRADO, NUMERO 5, 2º"_ansi, "CALLE", "CL", "PRADO",
+    {"VECINO DE 28001-MADRID, CON DOMICILIO EN LA CALLE DEL PRADO, NUMERO 5, 2º"_a, "CALLE", "CL", "PRADO",
      "5"},
-    {"con domicilio en la calle de Ávila, núm. 7, bajo"_ansi, "CALLE", "CL", "ÁVILA"_ansi, "7"},
+    {"con domicilio en la calle de Ávila, núm. 7, bajo"_a, "CALLE", "CL", "ÁVILA"_a, "7"},
     // Without the address word the street type alone starts the address, and the text is not trimmed.
     {"vecino de Madrid, calle Mayor, 5", "CALLE", "CL", "MAYOR", "5"},
     {"CALLE MAYOR 12\r", "CALLE", "CL", "MAYOR 12\r", ""},
@@ -81,8 +82,8 @@ const std::vector<TCaso> CASOS = {
     // A word for the number counts only in front of a comma; it leaves the blank before it.
     {"CALLE MAYOR NUMERO 3", "CALLE", "CL", "MAYOR NUMERO 3", ""},
     {"CALLE MAYOR 12", "CALLE", "CL", "MAYOR 12", ""},
-    {"CALLE MAYOR NUMERO 3, 2º"_ansi, "CALLE", "CL", "MAYOR ", "3"},
-    {"CALLE MAYOR Nº 3, 2º"_ansi, "CALLE", "CL", "MAYOR ", "3"},
+    {"CALLE MAYOR NUMERO 3, 2º"_a, "CALLE", "CL", "MAYOR ", "3"},
+    {"CALLE MAYOR Nº 3, 2º"_a, "CALLE", "CL", "MAYOR ", "3"},
     {"CALLE MAYOR NUM. 4 NUMERO 5, 2", "CALLE", "CL", "MAYOR ", "4"},
     {"CALLE MAYOR, PORTAL 2, NUMERO 3", "CALLE", "CL", "MAYOR", "2"},
     // A name that would end before it begins has no end.
@@ -102,7 +103,7 @@ const std::vector<TCaso> CASOS = {
 
 const std::vector<TCaso> CASOS_CATALANES = {
     {"CARRER DELS ARBRES, 4", "CARRER", "CL", "ARBRES", "4"},
-    {"amb domicili a la carrer dels Àngels, número 4"_ansi, "CARRER", "CL", "ÀNGELS"_ansi, "4"},
+    {"amb domicili a la carrer dels Àngels, número 4"_a, "CARRER", "CL", "ÀNGELS"_a, "4"},
     {"CARRER ELS ARBRES, 4", "CARRER", "CL", "ARBRES", "4"},
     {"CARRER DEL PI, 4", "CARRER", "CL", "PI", "4"},
     {"CARRER DE LA PAU, 4", "CARRER", "CL", "LA PAU", "4"},
@@ -157,7 +158,7 @@ struct TCasoExtranjero {
 
 const std::vector<TCasoExtranjero> CASOS_EXTRANJEROS = {
     {"", ""},
-    {"con domicilio en 12, Rue de la Paix, París (Francia), y pasaporte"_ansi, "12, RUE DE LA PAIX, PARIS"},
+    {"con domicilio en 12, Rue de la Paix, París (Francia), y pasaporte"_a, "12, RUE DE LA PAIX, PARIS"},
     {"CON DOMICILIO EN 10 DOWNING STREET, LONDRES. TIENE N.I.E.", "10 DOWNING STREET, LONDRES"},
     // Neither bracket nor full stop.
     {"CON DOMICILIO EN 10 DOWNING STREET, LONDRES", ""},

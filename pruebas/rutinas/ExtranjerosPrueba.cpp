@@ -3,6 +3,7 @@
 #include "plataforma/Ansi.h"
 #include "plataforma/Rut.h"
 #include "pruebas/comun/ConfigDePrueba.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/TablasDePrueba.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
@@ -16,7 +17,7 @@ namespace {
 const TSeccionesDePrueba VOCABULARIO = {{"EXTRANJEROS", {"NO RESIDENTE", "RESIDENTE EN FRANCIA"}}};
 
 const std::vector<TFilaProvincia> PAISES = {
-    {"28", "MADRID", "1", {"MADRILEÑA"_ansi}},
+    {"28", "MADRID", "1", {"MADRILEÑA"_a}},
     {"300", "EUROPA", "3", {"EUROPEA"}},
     {"126",
      "ALEMANIA",
@@ -53,11 +54,11 @@ struct TCaso {
 
 const std::vector<TCaso> CASOS = {
     {"", true, "", 0, "", {}},
-    {"don Juan, vecino de Madrid, madrileño y europea"_ansi, true, "", 0, "", {}},
+    {"don Juan, vecino de Madrid, madrileño y europea"_a, true, "", 0, "", {}},
     // Without a marker he is Spanish, yet the list is filled.
     {"de nacionalidad francesa, vecino de Italia", true, "", 0, "", {"FRANCIA 110 FRANCESA 17"}},
     // A marker and the country's name.
-    {"no residente, vecino de París, Francia"_ansi, false, "FRANCIA", 110, "Francia", {}},
+    {"no residente, vecino de París, Francia"_a, false, "FRANCIA", 110, "Francia", {}},
     {"residente en Francia, de nacionalidad italiana",
      false,
      "FRANCIA",
@@ -122,22 +123,17 @@ const std::vector<TCaso> CASOS_CATALANES = {
     {"GERMANICA I GERMANIC", true, "", 0, "", {"ALEMANIA 126 GERMANIC 13"}},
     // Vowels with dieresis are searched as the demonyms are stored, and every one before the word moves its
     // position by one.
-    {"de nacionalitat ucraïnesa"_ansi, true, "", 0, "", {"UCRANIA 135 UCRA#INESA 17"}},
-    {"veïna de Süria, ucraïnesa"_ansi, true, "", 0, "", {"UCRANIA 135 UCRA#INESA 19"}},
-    {"ä ë ï ö ü, haïtiana i francesa"_ansi,
+    {"de nacionalitat ucraïnesa"_a, true, "", 0, "", {"UCRANIA 135 UCRA#INESA 17"}},
+    {"veïna de Süria, ucraïnesa"_a, true, "", 0, "", {"UCRANIA 135 UCRA#INESA 19"}},
+    {"ä ë ï ö ü, haïtiana i francesa"_a,
      true,
      "",
      0,
      "",
      {"HAITI 230 HA#ITIANA 17", "FRANCIA 110 FRANCESA 29"}},
-    {"NO RESIDENTE, VEÏNA, UCRAÏNESA"_ansi,
-     false,
-     "UCRANIA",
-     135,
-     "UCRAÏNESA"_ansi,
-     {"UCRANIA 135 UCRA#INESA 23"}},
+    {"NO RESIDENTE, VEÏNA, UCRAÏNESA"_a, false, "UCRANIA", 135, "UCRAÏNESA"_a, {"UCRANIA 135 UCRA#INESA 23"}},
     // Names of countries are searched in the text itself.
-    {"NO RESIDENTE, VEÏNA DE FRANCIA"_ansi, false, "FRANCIA", 110, "FRANCIA", {}},
+    {"NO RESIDENTE, VEÏNA DE FRANCIA"_a, false, "FRANCIA", 110, "FRANCIA", {}},
 };
 
 // What the demonym looks like where it was read: the letters with dieresis themselves.

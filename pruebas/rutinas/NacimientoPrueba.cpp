@@ -3,6 +3,7 @@
 #include "plataforma/Ansi.h"
 #include "plataforma/Rnumcad.h"
 #include "plataforma/Rut.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/TablasDePrueba.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
@@ -25,7 +26,7 @@ const TSeccionesDePrueba CASTELLANO = {
 const TSeccionesDePrueba CATALAN = {
     {"LUGAR NACIMIENTO", {"NATURAL DE"}},
     {"FECHA NACIMIENTO", {"NASCUT EL"}},
-    {"MESES", {"GENER", "FEBRER", "MARÇ"_ansi, "ABRIL", "MAIG"}},
+    {"MESES", {"GENER", "FEBRER", "MARÇ"_a, "ABRIL", "MAIG"}},
     {"NUMEROS", {"QUINZE"}},
 };
 
@@ -55,16 +56,16 @@ const std::vector<TCaso> CASOS = {
     {"", "", "", "", "", ""},
     {"don Juan, mayor de edad, el 3 de mayo de 1970", "", "", "", "", ""},
     // Both phrases: each read after its own, in either order.
-    {"natural de León, nacido el 3 de mayo de 1970, casado"_ansi, "LEON", "", "", "03/05/1970",
+    {"natural de León, nacido el 3 de mayo de 1970, casado"_a, "LEON", "", "", "03/05/1970",
      "3 de mayo de 1970"},
-    {"nacido el 3 de mayo de 1970, natural de León, casado"_ansi, "LEON", "", "", "03/05/1970",
+    {"nacido el 3 de mayo de 1970, natural de León, casado"_a, "LEON", "", "", "03/05/1970",
      "3 de mayo de 1970"},
     {"NATURAL DE OVIEDO (ASTURIAS), NACIDO EL 3 DE MAYO DE 1970", "OVIEDO", "ASTURIAS", "", "03/05/1970",
      "3 DE MAYO DE 1970"},
     // Of several phrases the earliest.
     {"NACIDO EN OVIEDO, NATURAL DE LEON, CASADO", "OVIEDO", "LEON", "", "", ""},
     // Only the place: the date is looked for in what is left.
-    {"nacido en Lyon (Francia), el día 8 de agosto de 1951, hijo"_ansi, "LYON", "", "FRANCIA", "08/08/1951",
+    {"nacido en Lyon (Francia), el día 8 de agosto de 1951, hijo"_a, "LYON", "", "FRANCIA", "08/08/1951",
      "8 de agosto de 1951"},
     {"NATURAL DE OVIEDO, 3 DE MAYO DE 1970", "OVIEDO", "", "", "03/05/1970", "3 DE MAYO DE 1970"},
     {"NATURAL DE OVIEDO. TIENE 3 DE MAYO DE 1970", "OVIEDO", "", "", "03/05/1970", "3 DE MAYO DE 1970"},
@@ -94,8 +95,8 @@ const std::vector<TCaso> CASOS = {
     {"NACIDO EL 3 DE MAYO", "", "", "", "", ""},
     {"NACIDO EL 3 1970", "", "", "", "", ""},
     // The month by its word or by its number; words between are skipped, and a 0 too.
-    {"NACIDO EL 3 DEL MES DE MAYO DEL AÑO 1970"_ansi, "", "", "", "03/05/1970",
-     "3 DEL MES DE MAYO DEL AÑO 1970"_ansi},
+    {"NACIDO EL 3 DEL MES DE MAYO DEL AÑO 1970"_a, "", "", "", "03/05/1970",
+     "3 DEL MES DE MAYO DEL AÑO 1970"_a},
     {"NACIDO EL 3 DE SEPTIEMBRE DE 1970", "", "", "", "03/09/1970", "3 DE SEPTIEMBRE DE 1970"},
     {"NACIDO EL 3 DE SETIEMBRE DE 1970", "", "", "", "03/09/1970", "3 DE SETIEMBRE DE 1970"},
     {"NACIDO EL 3 5 1970", "", "", "", "03/05/1970", "3 5 1970"},
@@ -141,8 +142,8 @@ const std::vector<TCaso> CASOS = {
 
 const std::vector<TCaso> CASOS_CATALANES = {
     {"NASCUT EL 15 DE MAIG DE 1970 A LLEIDA, CASAT", "LLEIDA", "", "", "15/05/1970", "15 DE MAIG DE 1970"},
-    {"nascut el quinze de març de 1970, a Tàrrega (Lleida), casat"_ansi, "TARREGA", "LLEIDA", "",
-     "15/03/1970", "quinze de març de 1970"_ansi},
+    {"nascut el quinze de març de 1970, a Tàrrega (Lleida), casat"_a, "TARREGA", "LLEIDA", "", "15/03/1970",
+     "quinze de març de 1970"_a},
     {"NASCUT EL 15 DE MAIG DE 1970 EN LLEIDA, CASAT", "EN LLEIDA", "", "", "15/05/1970",
      "15 DE MAIG DE 1970"},
     // The point of a geminated L ends no sentence.

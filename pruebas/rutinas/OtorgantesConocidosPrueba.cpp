@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "plataforma/Ansi.h"
+#include "pruebas/comun/Literales.h"
 #include "rutinas/RutAnalizador.h"
 
 namespace analizador {
@@ -30,7 +31,7 @@ ListaTextos<TROtorgante> Lista(const std::vector<TParte>& partes) {
 
 const std::vector<TParte> PARTES = {
     {"", "", ""},
-    {"JUAN", "PÉREZ GIL"_ansi, "12345678Z"},
+    {"JUAN", "PÉREZ GIL"_a, "12345678Z"},
     {"JUAN", "GIL", "X1234567L"},
     {"", "ESTEL, S.L.", "B12345674"},
     {"ANA", "GIL", "12345678Z"},
@@ -45,16 +46,16 @@ struct TCaso {
 const std::vector<TCaso> CASOS = {
     {"", "", false},
     {"sin objeto", "", false},
-    {"COMPARECE DON JUAN PÉREZ GIL, MAYOR"_ansi, "PÉREZ GIL"_ansi, false},
+    {"COMPARECE DON JUAN PÉREZ GIL, MAYOR"_a, "PÉREZ GIL"_a, false},
     // Exactly: neither accents nor capitals are forgiven.
     {"COMPARECE DON JUAN PEREZ GIL, MAYOR", "", false},
     {"comparece don juan gil", "", false},
     // The first of the list, not of the text.
-    {"JUAN GIL Y JUAN PÉREZ GIL"_ansi, "PÉREZ GIL"_ansi, false},
+    {"JUAN GIL Y JUAN PÉREZ GIL"_a, "PÉREZ GIL"_a, false},
     {"JUAN GIL", "GIL", false},
     // Anywhere, inside another word too; by the whole name only.
     {"SANJUAN GILABERT", "GIL", false},
-    {"PÉREZ GIL, JUAN"_ansi, "", false},
+    {"PÉREZ GIL, JUAN"_a, "", false},
     {"LA ENTIDAD \"ESTEL, S.L.\"", "ESTEL, S.L.", false},
     // Documents, as they are written.
     {"CON N.I.F. 12345678Z Y N.I.E. X1234567L", "", true},

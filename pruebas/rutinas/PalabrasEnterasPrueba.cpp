@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "plataforma/Ansi.h"
+#include "pruebas/comun/Literales.h"
 #include "rutinas/PalabrasEnteras.h"
 
 namespace analizador {
@@ -29,7 +30,7 @@ const std::vector<TCaso> CASOS = {
     // Only A to Z are letters here: digits, signs, small letters and letters of other alphabets are not.
     {"3LEON3", "LEON", 1},
     {"aLEONz", "LEON", 1},
-    {"ÑLEONÇ"_ansi, "LEON", 1},
+    {"ÑLEONÇ"_a, "LEON", 1},
     {"@LEON[", "LEON", 1},
     {"ALEON", "LEON", NADA},
     {"ZLEON", "LEON", NADA},

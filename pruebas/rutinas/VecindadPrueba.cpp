@@ -3,6 +3,7 @@
 #include "plataforma/Ansi.h"
 #include "plataforma/Rnumcad.h"
 #include "plataforma/Rut.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
 #include "rutinas/RutAnalizador.h"
@@ -24,8 +25,8 @@ struct TCaso {
 const std::vector<TCaso> CASOS = {
     {"", "", ""},
     {"Casado, mayor de edad", "", ""},
-    {"VECINO DE 28001-MADRID, CON DOMICILIO EN LA CALLE DEL PRADO, NUMERO 5, 2º"_ansi, "MADRID", "28001", 16},
-    {"vecino de Alcalá de Henares, casado"_ansi, "ALCALA DE HENARES", "", 10},
+    {"VECINO DE 28001-MADRID, CON DOMICILIO EN LA CALLE DEL PRADO, NUMERO 5, 2º"_a, "MADRID", "28001", 16},
+    {"vecino de Alcalá de Henares, casado"_a, "ALCALA DE HENARES", "", 10},
     // The word's own occurrence of the name is the one told.
     {"En Madrid, don Juan, vecino de Madrid, casado", "MADRID", "", 31},
     // Without a comma there is no municipality, whatever else follows.
@@ -51,9 +52,9 @@ const std::vector<TCaso> CASOS = {
     {"VECINO DE , CASADO", "", ""},
     {"VECINO DE   MADRID \r , CASADO", "MADRID", "", 12},
     // A bracket and what follows it go.
-    {"VECINO DE MADRID (ESPAÑA), CASADO"_ansi, "MADRID", "", 10},
-    {"VECINO DE CIUTAT (MALLORCA) (ESPAÑA), CASADO"_ansi, "CIUTAT", "", 10},
-    {"VECINO DE (ESPAÑA) MADRID, CASADO"_ansi, "", ""},
+    {"VECINO DE MADRID (ESPAÑA), CASADO"_a, "MADRID", "", 10},
+    {"VECINO DE CIUTAT (MALLORCA) (ESPAÑA), CASADO"_a, "CIUTAT", "", 10},
+    {"VECINO DE (ESPAÑA) MADRID, CASADO"_a, "", ""},
     // A number before the first dash is the postal code, padded to five digits.
     {"VECINO DE 8001-BARCELONA, CASADO", "BARCELONA", "08001", 15},
     {"VECINO DE 28001 - MADRID, CASADO", " MADRID", "28001", 17},
