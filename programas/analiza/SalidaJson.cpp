@@ -6,6 +6,7 @@
 #include "dialogos/ListaConceptosPreseleccionados.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Rnumcad.h"
+#include "programas/analiza/SalidaOrigen.h"
 
 namespace analizador {
 
@@ -91,7 +92,7 @@ TJson Operacion(const TClassOperacion& operacion) {
 
 }  // namespace
 
-std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis) {
+std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis, bool conOrigen) {
     TJson json;
     json["archivo"] = fichero.string();
     if (!analisis.Error().empty()) {
@@ -107,6 +108,7 @@ std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFiche
         json["Fincas"] = Textos(sesion.Fincas);
         json["Empleado"] = Utf8DeAnsi(sesion.Empleado);
         json["Pizarra"] = Utf8DeAnsi(sesion.Pizarra);
+        if (conOrigen) json["Origen"] = JsonOrigen(analisis);
     }
     // A file's name need not be valid UTF-8.
     return json.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);

@@ -25,6 +25,7 @@ struct TOpciones {
     std::optional<fs::path> Tablas;
     std::optional<fs::path> Salida;
     bool Json = false;
+    bool Origen = false;
     bool Guarda = false;
     bool Forzar = false;
 };
@@ -44,6 +45,8 @@ void Declara(CLI::App& aplicacion, TOpciones& opciones) {
         ->option_text("... (obligatorio)");
     aplicacion.add_flag("--json", opciones.Json,
                         "Escribe una línea de JSON por fichero en lugar del informe");
+    aplicacion.add_flag("--origen", opciones.Origen,
+                        "Con --json: dice además en qué párrafo y dónde se leyó cada dato");
     aplicacion.add_option("--config", opciones.Config, "Carpeta de los vocabularios y de OFICINA.INI")
         ->option_text("CARPETA");
     aplicacion.add_option("--tablas", opciones.Tablas, "Carpeta de las tablas de referencia")
@@ -95,7 +98,7 @@ bool Procesa(const fs::path& fichero, const TOpciones& opciones) {
     const TAnalisisFichero analisis(fichero, pedido);
     if (!analisis.Error().empty()) Avisa(analisis.Error());
     if (opciones.Json) {
-        Escribe(LineaJson(fichero, analisis) + "\n");
+        Escribe(LineaJson(fichero, analisis, opciones.Origen) + "\n");
     } else if (analisis.Error().empty()) {
         if (opciones.Ficheros.size() > 1) Escribe("==== " + fichero.string() + "\n");
         Escribe(InformeTexto(analisis.Sesion()));
@@ -106,6 +109,7 @@ bool Procesa(const fs::path& fichero, const TOpciones& opciones) {
 
 int Ejecuta(const TOpciones& opciones) {
     if (opciones.Salida && opciones.Guarda) return MalUso("--guarda y --salida no van juntas");
+    if (opciones.Origen && !opciones.Json) return MalUso("--origen solo va con --json");
     if (opciones.Salida && opciones.Ficheros.size() > 1)
         return MalUso("con --salida se analiza un solo fichero");
     try {
