@@ -24,7 +24,8 @@ TWordDocumentoCustom* TClassAnalizadorAbierto::GetDocumento() const {
 
 TWordDocumentoCustom& TClassAnalizadorAbierto::Documento() const {
     auto* const documento = GetDocumento();
-    if (documento == nullptr) throw ErrorWord(std::string("No hay ningún documento activo en el procesador de textos"_ansi));
+    if (documento == nullptr)
+        throw ErrorWord(std::string("No hay ningún documento activo en el procesador de textos"_ansi));
     return *documento;
 }
 
@@ -34,12 +35,15 @@ bool TClassAnalizadorAbierto::Analiza(bool SinRevision) {
         {"Extrayendo cuantias del documento, espere un momento", &TClassAnalizadorAbierto::AnalizaCuantias},
         {"Analizando comparecientes, espere un momento", &TClassAnalizadorAbierto::AnalizaComparecientes},
         {"Analizando intervinientes, espere un momento", &TClassAnalizadorAbierto::AnalizaIntervinientes},
-        {"Buscando otorgantes trasmitentes/adquirentes, espere un momento", &TClassAnalizadorAbierto::AnalizaTransmision},
+        {"Buscando otorgantes trasmitentes/adquirentes, espere un momento",
+         &TClassAnalizadorAbierto::AnalizaTransmision},
         {"Buscando prestatario, espere un momento", &TClassAnalizadorAbierto::AnalizaParteDeudora},
-        {"Buscando otorgantes testamentarios, espere un momento", &TClassAnalizadorAbierto::AnalizaTestamento},
+        {"Buscando otorgantes testamentarios, espere un momento",
+         &TClassAnalizadorAbierto::AnalizaTestamento},
         {"Buscando detalles de préstamos, espere un momento"_ansi, &TClassAnalizadorAbierto::AnalizaPrestamo},
         {"Buscando fincas introducidas, espere un momento", &TClassAnalizadorAbierto::AnalizaFincas},
-        {"Eliminando otorgantes duplicados, espere un momento", &TClassAnalizadorAbierto::EliminaOtorgantesDuplicados},
+        {"Eliminando otorgantes duplicados, espere un momento",
+         &TClassAnalizadorAbierto::EliminaOtorgantesDuplicados},
         {"Generando informe, espere un momento", &TClassAnalizadorAbierto::RellenaPizarra},
     }};
     {
@@ -86,7 +90,8 @@ void TClassAnalizadorAbierto::AnalizaCabecera(bool RevisarNotario) {
 void TClassAnalizadorAbierto::AnalizaCuantias() {
     const std::string texto = TraduceCaracteresExtranosDeWord(Documento().GetTexto());
     const TPosicionesPorParrafo posiciones(texto, 1, 0);
-    for (const Tramo& tramo : BuscaCuantias(texto, Cuantias)) OrigenCuantias.push_back(posiciones.Origen(tramo));
+    for (const Tramo& tramo : BuscaCuantias(texto, Cuantias))
+        OrigenCuantias.push_back(posiciones.Origen(tramo));
 }
 
 void TClassAnalizadorAbierto::AnalizaComparecientes() {
@@ -137,7 +142,8 @@ bool TClassAnalizadorAbierto::HayAlgunTipoPrestamo() const {
 void TClassAnalizadorAbierto::AnalizaFincas() {
     for (const TMarcador& marcador : Documento().GetMarcadores()) {
         auto finca = NombreFinca(marcador.Nombre);
-        if (finca && std::find(Fincas.begin(), Fincas.end(), *finca) == Fincas.end()) Fincas.push_back(std::move(*finca));
+        if (finca && std::find(Fincas.begin(), Fincas.end(), *finca) == Fincas.end())
+            Fincas.push_back(std::move(*finca));
     }
 }
 

@@ -22,41 +22,42 @@ struct TOrigenOperacion {
     std::optional<TOrigen> TipoInteres;
 };
 
-// The session through which a host program analyses the deed that is open in the word processor: it makes one, calls
-// Analiza and reads the results. It owns every list and record it fills; the host only reads them. It may analyse any
-// number of times: each analysis first empties the results of the one before.
+// The session through which a host program analyses the deed that is open in the word processor: it makes
+// one, calls Analiza and reads the results. It owns every list and record it fills; the host only reads them.
+// It may analyse any number of times: each analysis first empties the results of the one before.
 //
-// It works on the active document only, never opens, saves or closes one. It moves the selection, adds bookmarks for
-// the sections found and leaves the selection at the start. Everything runs on the calling thread. Texts are
-// Windows-1252.
+// It works on the active document only, never opens, saves or closes one. It moves the selection, adds
+// bookmarks for the sections found and leaves the selection at the start. Everything runs on the calling
+// thread. Texts are Windows-1252.
 class TClassAnalizadorAbierto {
   public:
-    // Neither is owned; both must outlive the session. `AOwner` may be nullptr. Without a word processor every
-    // analysis fails.
+    // Neither is owned; both must outlive the session. `AOwner` may be nullptr. Without a word processor
+    // every analysis fails.
     TClassAnalizadorAbierto(TComponente* AOwner, TWordApplicationConDocumentos* AWord);
     TClassAnalizadorAbierto(const TClassAnalizadorAbierto&) = delete;
     TClassAnalizadorAbierto& operator=(const TClassAnalizadorAbierto&) = delete;
 
-    // Runs the whole analysis and the review; true when the user accepted (as Aceptado). `SinRevision`: the notary
-    // found is not put to the user. Throws ErrorWord and ErrorTabla; the progress window is closed on every path and
-    // the results are then those gathered so far.
+    // Runs the whole analysis and the review; true when the user accepted (as Aceptado). `SinRevision`: the
+    // notary found is not put to the user. Throws ErrorWord and ErrorTabla; the progress window is closed on
+    // every path and the results are then those gathered so far.
     bool Analiza(bool SinRevision);
 
     // The active document, or nullptr.
     [[nodiscard]] TWordDocumentoCustom* GetDocumento() const;
 
-    // The token file for the deed: the Catalan one when "DAVANT MEU" is found and "ANTE MI" is not, else the Castilian.
+    // The token file for the deed: the Catalan one when "DAVANT MEU" is found and "ANTE MI" is not, else the
+    // Castilian.
     [[nodiscard]] std::filesystem::path SeleccionaArchivoTokens();
 
     // ---- Results
 
     TComponente* Propietario;
-    std::string Pizarra;   // the report
-    std::string Empleado;  // the document variable EMPLEADO
+    std::string Pizarra;                     // the report
+    std::string Empleado;                    // the document variable EMPLEADO
     TListaOtorgantes Otorgantes;             // without duplicates; after the review, the user's choice
     TListaOtorgantes OtorgantesEncontrados;  // every mention, in the order found
     std::vector<std::string> Cuantias;
-    std::vector<TOrigen> OrigenCuantias;  // one for each amount
+    std::vector<TOrigen> OrigenCuantias;       // one for each amount
     ListaTextos<TRConcepto> ConceptosValidos;  // accepted in the review
     std::vector<std::string> Fincas;
     TClassOperacion Operacion;

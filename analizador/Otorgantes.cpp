@@ -55,10 +55,13 @@ void TClassAnalizadorAbierto::RecorreParrafoTransmision() {
 }
 
 void TClassAnalizadorAbierto::AnalizaTestamento() {
-    if (OtorgantesEncontrados.Lista.Vacia() || !OtorgantesEncontrados.Lista[0].Objeto || !HayAlgunTipoTestamento()) return;
+    if (OtorgantesEncontrados.Lista.Vacia() || !OtorgantesEncontrados.Lista[0].Objeto ||
+        !HayAlgunTipoTestamento())
+        return;
     SeleccionaExponen();
     // The testator is the first party found.
-    DesglosaIntervaloTestamento(Documento().GetTexto(MarcadorExponen->Intervalo), *OtorgantesEncontrados.Lista[0].Objeto);
+    DesglosaIntervaloTestamento(Documento().GetTexto(MarcadorExponen->Intervalo),
+                                *OtorgantesEncontrados.Lista[0].Objeto);
 }
 
 void TClassAnalizadorAbierto::DesglosaIntervaloTestamento(std::string_view texto, TROtorgante& otorgante) {
@@ -83,7 +86,8 @@ void TClassAnalizadorAbierto::DesglosaIntervaloPrestamo(std::string_view texto, 
     TClassIntervaloPrestamo intervalo(texto, operacion);
     intervalo.Desglosa();
     const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo);
-    for (const Tramo& tramo : intervalo.TramosPlazos) OrigenOperacion.Plazos.push_back(posiciones.Origen(tramo));
+    for (const Tramo& tramo : intervalo.TramosPlazos)
+        OrigenOperacion.Plazos.push_back(posiciones.Origen(tramo));
     for (const Tramo& tramo : intervalo.TramosTAEs) OrigenOperacion.TAEs.push_back(posiciones.Origen(tramo));
     OrigenOperacion.TipoInteres.reset();
     if (intervalo.TramoTipoInteres.Longitud != 0)

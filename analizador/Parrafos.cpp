@@ -30,7 +30,8 @@ bool Desaparece(char caracter) {
 
 }  // namespace
 
-TPosicionesPorParrafo::TPosicionesPorParrafo(std::string_view texto, int primerParrafo, std::size_t desplazamiento)
+TPosicionesPorParrafo::TPosicionesPorParrafo(std::string_view texto, int primerParrafo,
+                                             std::size_t desplazamiento)
     : comienzos_{0}, primerParrafo_(primerParrafo), desplazamiento_(desplazamiento) {
     for (std::size_t i = 0; i < texto.size(); ++i) {
         if (Desaparece(texto[i]))
@@ -52,19 +53,19 @@ TOrigen TPosicionesPorParrafo::Origen(Tramo tramo) const {
     const auto parrafo = siguiente - comienzos_.begin() - 1;
     const std::size_t comienzo = *(siguiente - 1);
     const std::size_t primera = Llanos(comienzo, tramo.Primera) + (parrafo == 0 ? desplazamiento_ : 0);
-    return {primerParrafo_ + static_cast<int>(parrafo), {primera, Llanos(tramo.Primera, tramo.Primera + tramo.Longitud)}};
+    return {primerParrafo_ + static_cast<int>(parrafo),
+            {primera, Llanos(tramo.Primera, tramo.Primera + tramo.Longitud)}};
 }
 
 TPosicionesPorParrafo PosicionesDeSeccion(const TWordDocumentoCustom& documento, TIntervalo intervalo) {
     constexpr char MARCA_DE_CELDA = 7;
     const std::string texto = documento.GetTexto(intervalo);
     const std::string primero = documento.GetParrafos({intervalo.Inicio, intervalo.Inicio}).front();
-    // How much of its first paragraph the stretch holds; one without a line end stops before the paragraph's own.
+    // How much of its first paragraph the stretch holds; one without a line end stops before the paragraph's
+    // own.
     std::size_t tomado = texto.find('\r') + 1;
-    if (tomado == 0)
-        tomado = texto.size() + 1;
-    else if (tomado < texto.size() && texto[tomado] == MARCA_DE_CELDA)
-        ++tomado;
+    if (tomado == 0) tomado = texto.size() + 1;
+    if (primero.ends_with(MARCA_DE_CELDA)) ++tomado;
     const std::size_t crudo = primero.size() - std::min(primero.size(), tomado);
     const std::size_t llano = TraduceCaracteresExtranosDeWord(primero.substr(0, crudo)).size();
     return {texto, documento.GetNumeroParrafo(intervalo.Inicio), llano};

@@ -21,20 +21,22 @@ struct TParrafo {
 class TPosicionesPorParrafo;
 
 // For positions in the text of a stretch of the document, which may begin inside a paragraph.
-[[nodiscard]] TPosicionesPorParrafo PosicionesDeSeccion(const TWordDocumentoCustom& documento, TIntervalo intervalo);
+[[nodiscard]] TPosicionesPorParrafo PosicionesDeSeccion(const TWordDocumentoCustom& documento,
+                                                        TIntervalo intervalo);
 
-// Tells of a position in a text of many paragraphs in which paragraph of the document it stands, and where in that
-// paragraph's plain text.
+// Tells of a position in a text of many paragraphs in which paragraph of the document it stands, and where in
+// that paragraph's plain text.
 class TPosicionesPorParrafo {
   public:
-    // `texto` begins in the paragraph `primerParrafo`, after the first `desplazamiento` plain characters of it. It may be plain
-    // already or as the word processor gives it.
+    // `texto` begins in the paragraph `primerParrafo`, after the first `desplazamiento` plain characters of
+    // it. It may be plain already or as the word processor gives it.
     TPosicionesPorParrafo(std::string_view texto, int primerParrafo, std::size_t desplazamiento);
     [[nodiscard]] TOrigen Origen(Tramo tramo) const;
 
   private:
     std::vector<std::size_t> comienzos_;  // of each paragraph in `texto`
-    std::vector<std::size_t> ausentes_;   // positions in `texto` of the characters that a plain text has no more
+    std::vector<std::size_t>
+        ausentes_;  // positions in `texto` of the characters that a plain text has no more
     int primerParrafo_;
     std::size_t desplazamiento_;
     [[nodiscard]] std::size_t Llanos(std::size_t desde, std::size_t hasta) const;

@@ -17,7 +17,9 @@ class TPizarra {
     explicit TPizarra(std::string& texto) : texto_(texto) {}
 
     void Linea(std::string_view linea = {}) { texto_.append(linea).append("\r\n"); }
-    void Dato(std::string_view rotulo, std::string_view valor) { texto_.append(rotulo).append(valor).append("\r\n"); }
+    void Dato(std::string_view rotulo, std::string_view valor) {
+        texto_.append(rotulo).append(valor).append("\r\n");
+    }
     void DatoSiHay(std::string_view rotulo, std::string_view valor) {
         if (!valor.empty()) Dato(rotulo, valor);
     }
@@ -34,22 +36,24 @@ std::string_view TextoDocumento(int tipo) {
 
 // Empty for the codes that have no line.
 std::string_view TextoEstadoCivil(int estado) {
-    static constexpr std::array<std::string_view, 8> TEXTOS = {
-        "",
-        "CA (casado/a)",
-        "CS (casado/a segundas nupcias)",
-        "DI (divorciado/a)",
-        "SJ (separado/a judicialmente)",
-        "SO (soltero/a)",
-        "VI (viudo/a)",
-        "PH (pareja de hecho)"};
-    return estado >= 0 && estado < static_cast<int>(TEXTOS.size()) ? TEXTOS[static_cast<std::size_t>(estado)] : "";
+    static constexpr std::array<std::string_view, 8> TEXTOS = {"",
+                                                               "CA (casado/a)",
+                                                               "CS (casado/a segundas nupcias)",
+                                                               "DI (divorciado/a)",
+                                                               "SJ (separado/a judicialmente)",
+                                                               "SO (soltero/a)",
+                                                               "VI (viudo/a)",
+                                                               "PH (pareja de hecho)"};
+    return estado >= 0 && estado < static_cast<int>(TEXTOS.size()) ? TEXTOS[static_cast<std::size_t>(estado)]
+                                                                   : "";
 }
 
 std::string_view TextoRegimen(int regimen) {
     static constexpr std::array<std::string_view, 5> TEXTOS = {
         "", "G (Gananciales)", "S (Separación de bienes)"_ansi, "P (Participación)"_ansi, "O (Otros)"};
-    return regimen >= 0 && regimen < static_cast<int>(TEXTOS.size()) ? TEXTOS[static_cast<std::size_t>(regimen)] : "";
+    return regimen >= 0 && regimen < static_cast<int>(TEXTOS.size())
+               ? TEXTOS[static_cast<std::size_t>(regimen)]
+               : "";
 }
 
 std::string TextoFecha(const std::optional<TFecha>& fecha) {

@@ -16,7 +16,8 @@ namespace {
 
 // The searches differ only in whether case and whole words count.
 constexpr TOpcionesBusqueda Opciones(bool mayusculas, bool palabras) {
-    return {.DistingueMayusculas = mayusculas, .PalabrasCompletas = palabras, .Adelante = true, .Continua = true};
+    return {
+        .DistingueMayusculas = mayusculas, .PalabrasCompletas = palabras, .Adelante = true, .Continua = true};
 }
 
 constexpr int POSICION_MAXIMA_DE_TITULO = 5;
@@ -27,8 +28,9 @@ bool EncabezaSuParrafo(const std::string& entrada, const TSeleccion& seleccion) 
     return Pos(entrada, Recorta(parrafo)) <= POSICION_MAXIMA_DE_TITULO;
 }
 
-// Looks for the first occurrence of each entry; of those that are headings the earliest in the document sets the
-// start. A start of 0 is one not set yet, so a heading at the very start of the document gives way to any other.
+// Looks for the first occurrence of each entry; of those that are headings the earliest in the document sets
+// the start. A start of 0 is one not set yet, so a heading at the very start of the document gives way to any
+// other.
 bool BuscaTitulo(TWordDocumentoCustom& documento, std::string_view seccion, int& inicio) {
     const auto fichero = AbreFicheroIni(TOKENS_INI());
     bool encontrado = false;
@@ -94,7 +96,9 @@ bool TClassAnalizadorAbierto::BuscarTokenIntervinientes() {
     return BuscaTitulo(Documento(), "INTERVINIENTES", InicioIntervinientes);
 }
 
-bool TClassAnalizadorAbierto::BuscarTokenExponen() { return BuscaTitulo(Documento(), "EXPONEN", InicioExponen); }
+bool TClassAnalizadorAbierto::BuscarTokenExponen() {
+    return BuscaTitulo(Documento(), "EXPONEN", InicioExponen);
+}
 
 bool TClassAnalizadorAbierto::BuscarTokenTransmision() {
     return BuscaParrafo(Documento(), "TRANSMISION", Opciones(false, false));
@@ -109,11 +113,13 @@ void TClassAnalizadorAbierto::SeleccionaCabecera() {
 }
 
 void TClassAnalizadorAbierto::SeleccionaComparecientes() {
-    MarcadorComparecientes = MarcaSeccion(Documento(), {InicioComparecientes, FinComparecientes}, "COMPARECIENTES");
+    MarcadorComparecientes =
+        MarcaSeccion(Documento(), {InicioComparecientes, FinComparecientes}, "COMPARECIENTES");
 }
 
 void TClassAnalizadorAbierto::SeleccionaIntervinientes() {
-    MarcadorIntervinientes = MarcaSeccion(Documento(), {InicioIntervinientes, FinIntervinientes}, "INTERVINIENTES");
+    MarcadorIntervinientes =
+        MarcaSeccion(Documento(), {InicioIntervinientes, FinIntervinientes}, "INTERVINIENTES");
 }
 
 void TClassAnalizadorAbierto::SeleccionaExponen() {
@@ -148,7 +154,8 @@ void TClassAnalizadorAbierto::RecorreParrafosDeComparecientes() {
 void TClassAnalizadorAbierto::RecorreParrafosDeIntervinientes() {
     const auto parrafos = ParrafosDe(Documento(), MarcadorIntervinientes->Intervalo);
     for (const auto& parrafo : parrafos) {
-        if (EsUnParrafoDeRepresentacion(parrafo.Texto)) DesglosaParrafoRepresentacion(parrafo.Texto, parrafo.Numero);
+        if (EsUnParrafoDeRepresentacion(parrafo.Texto))
+            DesglosaParrafoRepresentacion(parrafo.Texto, parrafo.Numero);
         if (&parrafo == &parrafos.back()) Cabecera.DesglosaConceptos(parrafo.Texto, parrafo.Numero);
     }
 }

@@ -1,8 +1,8 @@
 #include "plataforma/FicheroIni.h"
 
 #include <algorithm>
+#include <array>
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -130,9 +130,16 @@ struct TCopia {
     std::shared_ptr<const TFicheroIni> Contenido;
 };
 
-std::string LeeBytes(const std::filesystem::path& fichero) {
+// Empty when the file cannot be read, as a folder cannot.
+std::optional<std::string> LeeBytes(const std::filesystem::path& fichero) {
     std::ifstream entrada(fichero, std::ios::binary);
-    return {std::istreambuf_iterator<char>(entrada), std::istreambuf_iterator<char>()};
+    std::string bytes;
+    std::array<char, 65536> trozo{};
+    do {
+        entrada.read(trozo.data(), trozo.size());
+        bytes.append(trozo.data(), static_cast<std::size_t>(entrada.gcount()));
+    } while (entrada);
+    return entrada.bad() ? std::nullopt : std::optional(std::move(bytes));
 }
 
 // Reads until the file stands still: the mark before and after the reading is the same.
@@ -141,9 +148,11 @@ TCopia LeeCopia(const std::filesystem::path& fichero, TMarcaFichero marca) {
     TCopia copia;
     for (int i = 0; i < INTENTOS; ++i) {
         copia.Marca = marca;
-        copia.Bytes = LeeBytes(fichero);
+        auto bytes = LeeBytes(fichero);
+        const bool legible = bytes.has_value();
+        copia.Bytes = std::move(bytes).value_or(std::string());
         marca = MarcaDeFichero(fichero);
-        if (marca == copia.Marca && copia.Bytes.size() == marca.Longitud) break;
+        if (!legible || (marca == copia.Marca && copia.Bytes.size() == marca.Longitud)) break;
     }
     return copia;
 }

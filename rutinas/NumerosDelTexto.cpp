@@ -27,8 +27,10 @@ class TNumerosDelIdioma {
     const std::vector<std::string>& palabras_ = fichero_->Palabras("NUMEROS");
 };
 
-// Covers a further word of the same text.
-void Extiende(Tramo& tramo, std::string_view texto, std::string_view palabra) {
+// Covers a further word of the same text, without the signs around it.
+void Extiende(Tramo& tramo, std::string_view texto, std::string_view palabra, std::string_view signos) {
+    palabra.remove_prefix(std::min(palabra.find_first_not_of(signos), palabra.size()));
+    palabra = palabra.substr(0, palabra.find_last_not_of(signos) + 1);
     const auto primera = static_cast<std::size_t>(palabra.data() - texto.data());
     const auto fin = primera + palabra.size();
     if (tramo.Longitud == 0) {
@@ -59,7 +61,7 @@ TNumeroLeido NumeroInicial(std::string_view texto) {
         if (const auto digitos = EnteroDeCadena(palabra)) {
             leido.Numero = *digitos;
             leido.Donde = {};
-            Extiende(leido.Donde, texto, cruda);
+            Extiende(leido.Donde, texto, cruda, SIGNOS_AL_EMPEZAR);
             return leido;
         }
         if (idioma.EsNumero(palabra)) {
@@ -69,7 +71,7 @@ TNumeroLeido NumeroInicial(std::string_view texto) {
             }
             acumulado += palabra;
             conjuncionPendiente = false;
-            Extiende(leido.Donde, texto, cruda);
+            Extiende(leido.Donde, texto, cruda, SIGNOS_AL_EMPEZAR);
         } else if (palabra == idioma.Conjuncion()) {
             conjuncionPendiente = true;
         } else if (acumulado.empty()) {
@@ -96,14 +98,14 @@ TNumeroLeido NumeroFinal(std::string_view texto) {
         if (const auto digitos = EnteroDeCadena(palabra)) {
             leido.Numero = *digitos;
             leido.Donde = {};
-            Extiende(leido.Donde, texto, cruda);
+            Extiende(leido.Donde, texto, cruda, SIGNOS_AL_ACABAR);
             return leido;
         }
         if (idioma.EsNumero(palabra)) {
             if (!alReves.empty() && conjuncionPendiente) alReves.emplace_back(idioma.Conjuncion());
             alReves.push_back(palabra);
             conjuncionPendiente = false;
-            Extiende(leido.Donde, texto, cruda);
+            Extiende(leido.Donde, texto, cruda, SIGNOS_AL_ACABAR);
         } else if (palabra == idioma.Conjuncion()) {
             conjuncionPendiente = true;
         } else if (alReves.empty()) {

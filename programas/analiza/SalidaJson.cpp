@@ -92,7 +92,8 @@ TJson Operacion(const TClassOperacion& operacion) {
 
 }  // namespace
 
-std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis, bool conOrigen) {
+std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis,
+                      bool conOrigen) {
     TJson json;
     json["archivo"] = fichero.string();
     if (!analisis.Error().empty()) {

@@ -8,7 +8,8 @@
 namespace analizador {
 
 // The analysis of a file as one line of JSON (UTF-8, without the line end): its results, or only the file and
-// the error.
-[[nodiscard]] std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis);
+// the error. `conOrigen` adds where each fact was read, under "Origen".
+[[nodiscard]] std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis,
+                                    bool conOrigen);
 
 }  // namespace analizador

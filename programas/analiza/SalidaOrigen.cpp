@@ -30,7 +30,8 @@ class TEscritorDeOrigenes {
         return {{"parrafo", origen.Parrafo},
                 {"primera", origen.Donde.Primera},
                 {"longitud", origen.Donde.Longitud},
-                {"texto", Utf8DeAnsi(std::string_view(parrafo).substr(origen.Donde.Primera, origen.Donde.Longitud))}};
+                {"texto",
+                 Utf8DeAnsi(std::string_view(parrafo).substr(origen.Donde.Primera, origen.Donde.Longitud))}};
     }
 
     [[nodiscard]] TJson Varios(const std::vector<TOrigen>& origenes) const {

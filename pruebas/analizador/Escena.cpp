@@ -17,8 +17,8 @@ const TSeccionesDePrueba CASTELLANO = {
     {"NUMEROS", {"UNO", "DOS", "TRES", "CUATRO", "CINCO", "DOCE", "VEINTIUNO", "MIL"}},
     {"NUMERO", {"NUMERO"}},
     {"MESES",
-     {"ENERO", "FEBRERO", "MARZO", "ABRIL", "MAYO", "JUNIO", "JULIO", "AGOSTO", "SEPTIEMBRE", "OCTUBRE", "NOVIEMBRE",
-      "DICIEMBRE", "SETIEMBRE"}},
+     {"ENERO", "FEBRERO", "MARZO", "ABRIL", "MAYO", "JUNIO", "JULIO", "AGOSTO", "SEPTIEMBRE", "OCTUBRE",
+      "NOVIEMBRE", "DICIEMBRE", "SETIEMBRE"}},
     {"ANTE MI", {"ANTE MI"}},
     {"SUSTITUTO", {"SUSTITUTO"}},
     {"EURO", {"EUROS"}},
@@ -59,18 +59,21 @@ TEscena::TEscena(const std::vector<std::string_view>& parrafos, std::vector<TVar
                              {{"1", "COMPRAVENTA", "01001", "F"},
                               {"2", "TESTAMENTO ABIERTO", "0200101", "F"},
                               {"3", "PRESTAMO HIPOTECARIO", "05001", "T"}}});
-    Tablas.Pon("AYUNTAM.DBF", {{"LUGAR", "NOMBRE", "ABREVIATUR", "COD_INE", "CODPOSTAL"},
-                               {{"1", "MADRID", "MAD", "28079", "28001"}, {"2", "VIC", "VIC", "08298", "08500"}}});
+    Tablas.Pon("AYUNTAM.DBF",
+               {{"LUGAR", "NOMBRE", "ABREVIATUR", "COD_INE", "CODPOSTAL"},
+                {{"1", "MADRID", "MAD", "28079", "28001"}, {"2", "VIC", "VIC", "08298", "08500"}}});
     Tablas.Pon("PILA.DBF", {{"NOMBRE"}, {{"ANA"}, {"JUAN"}, {"LUIS"}}});
-    Tablas.Pon("PROVIN.DBF", {{"PROVINCIA", "CODIGO", "COD_198", "GRUPO", "NACIONALID", "GENTIL1_MA", "GENTIL1_FE",
-                               "GENTIL2_MA", "GENTIL2_FE", "NACIONA_CA", "GEN1_MA_CA", "GEN1_FE_CA", "GEN2_MA_CA",
-                               "GEN2_FE_CA"},
+    Tablas.Pon("PROVIN.DBF", {{"PROVINCIA", "CODIGO", "COD_198", "GRUPO", "NACIONALID", "GENTIL1_MA",
+                               "GENTIL1_FE", "GENTIL2_MA", "GENTIL2_FE", "NACIONA_CA", "GEN1_MA_CA",
+                               "GEN1_FE_CA", "GEN2_MA_CA", "GEN2_FE_CA"},
                               {{"MADRID", "28", "", "1", "", "", "", "", "", "", "", "", "", ""}}});
     Tablas.Pon("MUNICIPI.DBF", {{"NOM_MUNICI", "CODPOSTAL", "NOMBRE", "COD_INE", "COD_PROV"},
                                 {{"MADRID", "28001", "MADRID", "28079", "28"}}});
-    Tablas.Pon("POSTAL.DBF",
-               {{"PROVINCIA", "VIA", "TIPO_VIA", "IMPAR_INI", "IMPAR_FIN", "PAR_INI", "PAR_FIN", "CODPOSTAL"}, {}});
-    Tablas.Pon("TIPO_INT.DBF", {{"CODIGO", "DESCRIPCIO"}, {{"1", "Adquirente"}, {"2", "Transmitente"}, {"99", "Ninguna"}}});
+    Tablas.Pon(
+        "POSTAL.DBF",
+        {{"PROVINCIA", "VIA", "TIPO_VIA", "IMPAR_INI", "IMPAR_FIN", "PAR_INI", "PAR_FIN", "CODPOSTAL"}, {}});
+    Tablas.Pon("TIPO_INT.DBF",
+               {{"CODIGO", "DESCRIPCIO"}, {{"1", "Adquirente"}, {"2", "Transmitente"}, {"99", "Ninguna"}}});
 }
 
 std::unique_ptr<TWordDocumentoCustom> TEscena::Crea(TContenidoDocumento contenido) {

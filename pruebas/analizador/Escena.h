@@ -23,7 +23,8 @@ using TDiario = std::vector<std::string>;
 // A document that writes down what is asked of it and can be told to fail.
 class TDocumentoGrabado : public TWordDocumentoCustom {
   public:
-    TDocumentoGrabado(TContenidoDocumento contenido, TDiario& diario) : FReal(std::move(contenido)), FDiario(diario) {}
+    TDocumentoGrabado(TContenidoDocumento contenido, TDiario& diario)
+        : FReal(std::move(contenido)), FDiario(diario) {}
 
     // The operation of this name (and, for a bookmark, this argument) fails from now on; "" none.
     void FallaEn(std::string operacion) { FFallo = std::move(operacion); }
@@ -83,7 +84,8 @@ class TDocumentoGrabado : public TWordDocumentoCustom {
 class TPantallaGrabada : public TPantalla {
   public:
     explicit TPantallaGrabada(TDiario& diario) : FDiario(diario) {}
-    [[nodiscard]] std::unique_ptr<TVentanaMensaje> Abre(std::string_view texto, TComponente* propietario) override {
+    [[nodiscard]] std::unique_ptr<TVentanaMensaje> Abre(std::string_view texto,
+                                                        TComponente* propietario) override {
         Propietario = propietario;
         FDiario.push_back("abre " + std::string(texto));
         return std::make_unique<TVentana>(FDiario);
@@ -109,7 +111,8 @@ class TPantallaGrabada : public TPantalla {
 class TRevisorDePrueba : public TVistaPreseleccion {
   public:
     explicit TRevisorDePrueba(TDiario& diario) : FDiario(diario) {}
-    [[nodiscard]] bool MuestraModal(TFListaConceptosPreseleccionados& dialogo, TComponente* propietario) override {
+    [[nodiscard]] bool MuestraModal(TFListaConceptosPreseleccionados& dialogo,
+                                    TComponente* propietario) override {
         FDiario.emplace_back("dialogo");
         Propietario = propietario;
         Informe = dialogo.Informe;

@@ -10,7 +10,9 @@
 namespace analizador {
 namespace {
 
-void Anade(TClassAnalizadorAbierto& sesion, const TROtorgante& otorgante) { sesion.Otorgantes.Anade({otorgante, {}}); }
+void Anade(TClassAnalizadorAbierto& sesion, const TROtorgante& otorgante) {
+    sesion.Otorgantes.Anade({otorgante, {}});
+}
 
 std::string Informe(TEscena& escena) {
     escena.Sesion.Pizarra.clear();
@@ -181,7 +183,8 @@ TEST_P(PizarraCodigo, TieneSuTextoONoTieneLinea) {
     if (caso.Linea.empty())
         EXPECT_EQ(informe.find(caso.Rotulo), std::string::npos);
     else
-        EXPECT_NE(informe.find("\r\n" + std::string(caso.Rotulo) + std::string(caso.Linea) + "\r\n"), std::string::npos)
+        EXPECT_NE(informe.find("\r\n" + std::string(caso.Rotulo) + std::string(caso.Linea) + "\r\n"),
+                  std::string::npos)
             << informe;
 }
 
@@ -192,28 +195,35 @@ INSTANTIATE_TEST_SUITE_P(
         TCasoCodigo{"doc2", [](TROtorgante& o) { o.TipoDocumento = 2; }, "TIP.DOCUMENTO: ", "CIF"},
         TCasoCodigo{"doc3", [](TROtorgante& o) { o.TipoDocumento = 3; }, "TIP.DOCUMENTO: ", "NIE"},
         TCasoCodigo{"doc4", [](TROtorgante& o) { o.TipoDocumento = 4; }, "TIP.DOCUMENTO: ", "PASAPORTE"},
-        TCasoCodigo{"doc5", [](TROtorgante& o) { o.TipoDocumento = 5; }, "TIP.DOCUMENTO: ", "OTRO TIPO DE DOCUMENTO"},
-        TCasoCodigo{"doc0", [](TROtorgante& o) { o.TipoDocumento = 0; }, "TIP.DOCUMENTO: ", "OTRO TIPO DE DOCUMENTO"},
-        TCasoCodigo{"doc9", [](TROtorgante& o) { o.TipoDocumento = -9; }, "TIP.DOCUMENTO: ", "OTRO TIPO DE DOCUMENTO"},
+        TCasoCodigo{"doc5", [](TROtorgante& o) { o.TipoDocumento = 5; },
+                    "TIP.DOCUMENTO: ", "OTRO TIPO DE DOCUMENTO"},
+        TCasoCodigo{"doc0", [](TROtorgante& o) { o.TipoDocumento = 0; },
+                    "TIP.DOCUMENTO: ", "OTRO TIPO DE DOCUMENTO"},
+        TCasoCodigo{"doc9", [](TROtorgante& o) { o.TipoDocumento = -9; },
+                    "TIP.DOCUMENTO: ", "OTRO TIPO DE DOCUMENTO"},
         TCasoCodigo{"civil0", [](TROtorgante& o) { o.EstadoCivil = 0; }, "ESTADO CIVIL : ", ""},
         TCasoCodigo{"civil1", [](TROtorgante& o) { o.EstadoCivil = 1; }, "ESTADO CIVIL : ", "CA (casado/a)"},
         TCasoCodigo{"civil2", [](TROtorgante& o) { o.EstadoCivil = 2; },
                     "ESTADO CIVIL : ", "CS (casado/a segundas nupcias)"},
-        TCasoCodigo{"civil3", [](TROtorgante& o) { o.EstadoCivil = 3; }, "ESTADO CIVIL : ", "DI (divorciado/a)"},
+        TCasoCodigo{"civil3", [](TROtorgante& o) { o.EstadoCivil = 3; },
+                    "ESTADO CIVIL : ", "DI (divorciado/a)"},
         TCasoCodigo{"civil4", [](TROtorgante& o) { o.EstadoCivil = 4; },
                     "ESTADO CIVIL : ", "SJ (separado/a judicialmente)"},
         TCasoCodigo{"civil5", [](TROtorgante& o) { o.EstadoCivil = 5; }, "ESTADO CIVIL : ", "SO (soltero/a)"},
         TCasoCodigo{"civil6", [](TROtorgante& o) { o.EstadoCivil = 6; }, "ESTADO CIVIL : ", "VI (viudo/a)"},
-        TCasoCodigo{"civil7", [](TROtorgante& o) { o.EstadoCivil = 7; }, "ESTADO CIVIL : ", "PH (pareja de hecho)"},
+        TCasoCodigo{"civil7", [](TROtorgante& o) { o.EstadoCivil = 7; },
+                    "ESTADO CIVIL : ", "PH (pareja de hecho)"},
         TCasoCodigo{"civil8", [](TROtorgante& o) { o.EstadoCivil = 8; }, "ESTADO CIVIL : ", ""},
         TCasoCodigo{"regimen0", [](TROtorgante& o) { o.Regimen = 0; }, "REGIMEN MATR.: ", ""},
         TCasoCodigo{"regimen1", [](TROtorgante& o) { o.Regimen = 1; }, "REGIMEN MATR.: ", "G (Gananciales)"},
-        TCasoCodigo{"regimen3", [](TROtorgante& o) { o.Regimen = 3; }, "REGIMEN MATR.: ", "P (Participación)"_ansi},
+        TCasoCodigo{"regimen3", [](TROtorgante& o) { o.Regimen = 3; },
+                    "REGIMEN MATR.: ", "P (Participación)"_ansi},
         TCasoCodigo{"regimen4", [](TROtorgante& o) { o.Regimen = 4; }, "REGIMEN MATR.: ", "O (Otros)"},
         TCasoCodigo{"regimen5", [](TROtorgante& o) { o.Regimen = 5; }, "REGIMEN MATR.: ", ""},
         TCasoCodigo{"vrk6", [](TROtorgante& o) { o.IntervencionVRK = 6; },
                     "INTERV. VRK  : ", "6. Por sí y mandatario verbal"_ansi},
-        TCasoCodigo{"inti_sin_descripcion", [](TROtorgante& o) { o.IntervencionINTI = 77; }, "INTERV. INTI : ", "77"},
+        TCasoCodigo{"inti_sin_descripcion", [](TROtorgante& o) { o.IntervencionINTI = 77; },
+                    "INTERV. INTI : ", "77"},
         TCasoCodigo{"sin_nacimiento", [](TROtorgante&) {}, "FECHA NACIMI.: ", ""},
         TCasoCodigo{"sin_pais", [](TROtorgante&) {}, "PAIS         : ", ""},
         TCasoCodigo{"sin_nacionalidad", [](TROtorgante&) {}, "NACIONALIDAD : ", ""}),

@@ -24,7 +24,8 @@ TEST_P(Idioma, SeEligePorLaFormulaDelNotario) {
     const auto& caso = GetParam();
     TEscena escena(caso.Parrafos);
     escena.Documento().GetSeleccion().PonIntervalo({caso.Seleccion, caso.Seleccion});
-    EXPECT_EQ(escena.Sesion.SeleccionaArchivoTokens(), caso.Catalan ? Rutas().CATALAN_INI : Rutas().CASTELLANO_INI);
+    EXPECT_EQ(escena.Sesion.SeleccionaArchivoTokens(),
+              caso.Catalan ? Rutas().CATALAN_INI : Rutas().CASTELLANO_INI);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -48,20 +49,22 @@ TEST(Idioma, LasBusquedasPasanSusOpciones) {
     for (std::size_t i = 0; i < buscados.size(); ++i) {
         EXPECT_EQ(escena.Documento().Busquedas[i].first, buscados[i]);
         const auto& o = escena.Documento().Busquedas[i].second;
-        EXPECT_EQ(std::tie(o.DistingueMayusculas, o.PalabrasCompletas, o.Comodines, o.SuenaComo, o.TodasLasFormas, o.Adelante,
-                           o.Continua, o.Formato),
+        EXPECT_EQ(std::tie(o.DistingueMayusculas, o.PalabrasCompletas, o.Comodines, o.SuenaComo,
+                           o.TodasLasFormas, o.Adelante, o.Continua, o.Formato),
                   std::tie(opciones.DistingueMayusculas, opciones.PalabrasCompletas, opciones.Comodines,
                            opciones.SuenaComo, opciones.TodasLasFormas, opciones.Adelante, opciones.Continua,
                            opciones.Formato));
     }
 }
 
-// ---- Bounds. Each paragraph of these deeds has nine letters and its line end, so that paragraph n begins at 10n.
+// ---- Bounds. Each paragraph of these deeds has nine letters and its line end, so that paragraph n begins at
+// 10n.
 
 struct TCasoLimites {
     const char* Nombre;
     std::vector<std::string_view> Parrafos;
-    int FinCabecera, InicioComparecientes, FinComparecientes, InicioIntervinientes, FinIntervinientes, InicioExponen;
+    int FinCabecera, InicioComparecientes, FinComparecientes, InicioIntervinientes, FinIntervinientes,
+        InicioExponen;
 };
 
 class Limites : public testing::TestWithParam<TCasoLimites> {};
@@ -69,9 +72,9 @@ class Limites : public testing::TestWithParam<TCasoLimites> {};
 TEST_P(Limites, CadaSeccionAcabaDondeEmpiezaLaSiguienteHallada) {
     const auto& caso = GetParam();
     TEscena escena(caso.Parrafos);
-    escena.Vocabulario.Pon(TIdioma::Castellano, {{"COMPARECIENTES", {"COMPARECE"}},
-                                                 {"INTERVINIENTES", {"INTERVENI"}},
-                                                 {"EXPONEN", {"EXPONENNN"}}});
+    escena.Vocabulario.Pon(
+        TIdioma::Castellano,
+        {{"COMPARECIENTES", {"COMPARECE"}}, {"INTERVINIENTES", {"INTERVENI"}}, {"EXPONEN", {"EXPONENNN"}}});
     (void)escena.Sesion.Analiza(true);
     const auto& sesion = escena.Sesion;
     EXPECT_EQ(sesion.FinDocumento, static_cast<int>(caso.Parrafos.size()) * 10 - 1);
@@ -84,26 +87,50 @@ TEST_P(Limites, CadaSeccionAcabaDondeEmpiezaLaSiguienteHallada) {
     EXPECT_EQ(sesion.FinExponen, sesion.FinDocumento);
     ASSERT_TRUE(sesion.MarcadorCabecera && sesion.MarcadorComparecientes);
     EXPECT_EQ(sesion.MarcadorCabecera->Intervalo, (TIntervalo{0, caso.FinCabecera}));
-    EXPECT_EQ(sesion.MarcadorComparecientes->Intervalo, (TIntervalo{caso.InicioComparecientes, caso.FinComparecientes}));
+    EXPECT_EQ(sesion.MarcadorComparecientes->Intervalo,
+              (TIntervalo{caso.InicioComparecientes, caso.FinComparecientes}));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Escrituras, Limites,
     testing::Values(
-        TCasoLimites{"todas", {"cabecera1", "COMPARECE", "INTERVENI", "EXPONENNN", "final1234"}, 10, 10, 20, 20, 30, 30},
+        TCasoLimites{"todas",
+                     {"cabecera1", "COMPARECE", "INTERVENI", "EXPONENNN", "final1234"},
+                     10,
+                     10,
+                     20,
+                     20,
+                     30,
+                     30},
         TCasoLimites{"ninguna", {"cabecera1", "cabecera2", "final1234"}, 29, 0, 29, 0, 29, 0},
-        TCasoLimites{"sin_comparecientes", {"cabecera1", "INTERVENI", "EXPONENNN", "final1234"}, 10, 0, 10, 10, 20, 20},
-        TCasoLimites{"sin_intervinientes", {"cabecera1", "COMPARECE", "EXPONENNN", "final1234"}, 10, 10, 20, 0, 20, 20},
+        TCasoLimites{"sin_comparecientes",
+                     {"cabecera1", "INTERVENI", "EXPONENNN", "final1234"},
+                     10,
+                     0,
+                     10,
+                     10,
+                     20,
+                     20},
+        TCasoLimites{"sin_intervinientes",
+                     {"cabecera1", "COMPARECE", "EXPONENNN", "final1234"},
+                     10,
+                     10,
+                     20,
+                     0,
+                     20,
+                     20},
         TCasoLimites{"solo_expositivos", {"cabecera1", "EXPONENNN", "final1234"}, 10, 0, 10, 0, 10, 10},
         TCasoLimites{"solo_intervinientes", {"cabecera1", "INTERVENI", "final1234"}, 10, 0, 10, 10, 29, 0},
         // The first mention of the appearing parties is the heading, wherever the others stand.
-        TCasoLimites{"repetida", {"cabecera1", "COMPARECE", "EXPONENNN", "COMPARECE"}, 10, 10, 20, 0, 20, 20}),
+        TCasoLimites{
+            "repetida", {"cabecera1", "COMPARECE", "EXPONENNN", "COMPARECE"}, 10, 10, 20, 0, 20, 20}),
     [](const auto& caso) { return std::string(caso.param.Nombre); });
 
 // Bounds out of order leave a section of one paragraph.
 TEST(Limites, UnaSeccionQueAcabaAntesDeEmpezarTieneUnParrafo) {
     TEscena escena({"cabecera1", "EXPONENNN", "INTERVENI", "DON LUIS ", "final1234"});
-    escena.Vocabulario.Pon(TIdioma::Castellano, {{"INTERVINIENTES", {"INTERVENI"}}, {"EXPONEN", {"EXPONENNN"}}});
+    escena.Vocabulario.Pon(TIdioma::Castellano,
+                           {{"INTERVINIENTES", {"INTERVENI"}}, {"EXPONEN", {"EXPONENNN"}}});
     (void)escena.Sesion.Analiza(true);
     escena.Sesion.SeleccionaIntervinientes();
     EXPECT_EQ(escena.Sesion.MarcadorIntervinientes->Intervalo, (TIntervalo{10, 10}));
@@ -124,9 +151,10 @@ class Titulo : public testing::TestWithParam<TCasoTitulo> {};
 TEST_P(Titulo, SeReconoceAlPrincipioDeSuParrafo) {
     const auto& caso = GetParam();
     TEscena escena(caso.Parrafos);
-    escena.Vocabulario.Pon(TIdioma::Castellano, {{"COMPARECIENTES", {caso.Entradas.begin(), caso.Entradas.end()}},
-                                                 {"INTERVINIENTES", {caso.Entradas.begin(), caso.Entradas.end()}},
-                                                 {"EXPONEN", {caso.Entradas.begin(), caso.Entradas.end()}}});
+    escena.Vocabulario.Pon(TIdioma::Castellano,
+                           {{"COMPARECIENTES", {caso.Entradas.begin(), caso.Entradas.end()}},
+                            {"INTERVINIENTES", {caso.Entradas.begin(), caso.Entradas.end()}},
+                            {"EXPONEN", {caso.Entradas.begin(), caso.Entradas.end()}}});
     auto& sesion = escena.Sesion;
     EXPECT_EQ(sesion.BuscarTokenComparecientes(), caso.Encontrado);
     EXPECT_EQ(sesion.BuscarTokenIntervinientes(), caso.Encontrado);
@@ -147,23 +175,40 @@ INSTANTIATE_TEST_SUITE_P(
         TCasoTitulo{"minusculas", {"COMPARECEN"}, {"uno", "comparecen"}, false, 0},
         TCasoTitulo{"dentro_de_palabra", {"COMPARECE"}, {"uno", "COMPARECEN"}, false, 0},
         // Only the first mention of an entry is looked at, even where a later one would do.
-        TCasoTitulo{"la_primera_mencion_decide", {"COMPARECEN"}, {"los que COMPARECEN", "COMPARECEN"}, false, 0},
-        TCasoTitulo{"gana_el_anterior_en_la_escritura", {"SEGUNDO", "PRIMERO"}, {"uno", "PRIMERO", "SEGUNDO"}, true, 4},
+        TCasoTitulo{
+            "la_primera_mencion_decide", {"COMPARECEN"}, {"los que COMPARECEN", "COMPARECEN"}, false, 0},
+        TCasoTitulo{"gana_el_anterior_en_la_escritura",
+                    {"SEGUNDO", "PRIMERO"},
+                    {"uno", "PRIMERO", "SEGUNDO"},
+                    true,
+                    4},
         TCasoTitulo{"entradas_vacias", {"", "COMPARECEN"}, {"uno", "COMPARECEN"}, true, 4},
         // A heading at the very start counts as not set yet.
         TCasoTitulo{"al_comienzo_del_documento", {"PRIMERO"}, {"PRIMERO", "dos"}, true, 0},
-        TCasoTitulo{"al_comienzo_cede_ante_otro", {"PRIMERO", "SEGUNDO"}, {"PRIMERO", "dos", "SEGUNDO"}, true, 12},
-        TCasoTitulo{"al_comienzo_buscado_despues", {"SEGUNDO", "PRIMERO"}, {"PRIMERO", "dos", "SEGUNDO"}, true, 0},
-        // Found by the word processor, which takes a fixed blank for a blank, and plain in the paragraph's text too.
-        TCasoTitulo{"blanco_fijo", {"COMPARECE ANTE"}, {"uno", "COMPARECE\xA0" "ANTE MI"}, true, 4},
+        TCasoTitulo{
+            "al_comienzo_cede_ante_otro", {"PRIMERO", "SEGUNDO"}, {"PRIMERO", "dos", "SEGUNDO"}, true, 12},
+        TCasoTitulo{
+            "al_comienzo_buscado_despues", {"SEGUNDO", "PRIMERO"}, {"PRIMERO", "dos", "SEGUNDO"}, true, 0},
+        // Found by the word processor, which takes a fixed blank for a blank, and plain in the paragraph's
+        // text too.
+        TCasoTitulo{"blanco_fijo",
+                    {"COMPARECE ANTE"},
+                    {"uno",
+                     "COMPARECE\xA0"
+                     "ANTE MI"},
+                    true,
+                    4},
         // An optional hyphen is passed over by the search and gone from the plain text.
         TCasoTitulo{"guion_opcional", {"COMPARECEN"}, {"uno", "COMPA\x1FRECEN"}, true, 4}),
     [](const auto& caso) { return std::string(caso.param.Nombre); });
 
 TEST(Titulo, UnaEntradaQueNoEstaEnElTextoLlanoCuentaComoTitulo) {
-    // The search takes curly quotes for straight ones and the other way round; the plain text has straight ones only.
+    // The search takes curly quotes for straight ones and the other way round; the plain text has straight
+    // ones only.
     TEscena escena({"uno", "y ademas el \"ACTO\""});
-    escena.Vocabulario.Pon(TIdioma::Castellano, {{"EXPONEN", {"\x93" "ACTO\x94"}}});
+    escena.Vocabulario.Pon(TIdioma::Castellano, {{"EXPONEN",
+                                                  {"\x93"
+                                                   "ACTO\x94"}}});
     EXPECT_TRUE(escena.Sesion.BuscarTokenExponen());
     EXPECT_EQ(escena.Sesion.InicioExponen, 16);
 }
@@ -212,10 +257,11 @@ TEST(Parrafo, LaParteDeudoraPideLaPalabraEntera) {
 }
 
 TEST(Parrafo, SoloElParrafoDeLosDeudoresSeLee) {
-    TEscena escena({"COMPARECEN",
-                    "DON JUAN PEREZ GIL, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 12345678Z.",
-                    "EXPONEN", "La parte prestataria, DON LUIS SANZ RUBIO, con D.N.I. 87654321X, debe.",
-                    "DON ANA GIL RUIZ, con D.N.I. 11111111H."});
+    TEscena escena(
+        {"COMPARECEN",
+         "DON JUAN PEREZ GIL, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 12345678Z.",
+         "EXPONEN", "La parte prestataria, DON LUIS SANZ RUBIO, con D.N.I. 87654321X, debe.",
+         "DON ANA GIL RUIZ, con D.N.I. 11111111H."});
     (void)escena.Sesion.Analiza(true);
     ASSERT_EQ(escena.Sesion.Otorgantes.Lista.Cuenta(), 2U);
     EXPECT_EQ(escena.Sesion.Otorgantes.Lista[1].Texto, "LUIS SANZ RUBIO");
@@ -227,22 +273,27 @@ TEST(Parrafo, SoloElParrafoDeLosDeudoresSeLee) {
 TEST(Recorrido, SoloLosParrafosDePersonasDanComparecientes) {
     TEscena escena({"COMPARECEN", "Con D.N.I. 12345678Z, sin nombre.", "CORDON ROJO, con D.N.I. 12345678Z."});
     (void)escena.Sesion.Analiza(true);
-    // The second paragraph holds "DON " inside a word, which is enough to be looked at; nobody is named there, though.
+    // The second paragraph holds "DON " inside a word, which is enough to be looked at; nobody is named
+    // there, though.
     EXPECT_TRUE(escena.Sesion.OtorgantesEncontrados.Lista.Vacia());
 }
 
 TEST(Recorrido, UnaIntervencionYaConocidaNoCambiaEnLaTransmision) {
-    TEscena escena({"COMPARECEN",
-                    "DON JUAN PEREZ GIL, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 12345678Z.",
-                    "INTERVIENEN", "a) DON JUAN PEREZ GIL, en representacion de \"BODEGAS RIO, S.L.\", con CIF B12345674.",
-                    "EXPONEN", "BODEGAS RIO, S.L., por JUAN PEREZ GIL, vende."});
+    TEscena escena(
+        {"COMPARECEN",
+         "DON JUAN PEREZ GIL, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 12345678Z.",
+         "INTERVIENEN",
+         "a) DON JUAN PEREZ GIL, en representacion de \"BODEGAS RIO, S.L.\", con CIF B12345674.", "EXPONEN",
+         "BODEGAS RIO, S.L., por JUAN PEREZ GIL, vende."});
     (void)escena.Sesion.Analiza(true);
     EXPECT_EQ(escena.Sesion.Otorgantes.Lista[0].Objeto->IntervencionINTI, 16);
     EXPECT_EQ(escena.Sesion.Otorgantes.Lista[1].Objeto->IntervencionINTI, 2);
 }
 
 TEST(Recorrido, LosParrafosLleganLlanosALosReconocedores) {
-    TEscena escena({"N\x1FUMERO\tDOS\xA0MIL\x0B" "CINCO\x97"});
+    TEscena escena(
+        {"N\x1FUMERO\tDOS\xA0MIL\x0B"
+         "CINCO\x97"});
     (void)escena.Sesion.Analiza(true);
     EXPECT_EQ(escena.Sesion.Cabecera.NumeroProtocolo, 2005);
 }

@@ -18,8 +18,10 @@ const std::vector<std::string_view> COMPRAVENTA = {
     "En Madrid, a dos de marzo de dos mil doce.",
     "Ante mi, ALFONSO REQUEJO, Notario de Madrid,",
     "COMPARECEN",
-    "DON JUAN PEREZ GIL, mayor de edad, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 12345678Z.",
-    "DON LUIS SANZ RUBIO, mayor de edad, vecino de MADRID, con domicilio en la calle Prado, 7, con D.N.I. 87654321X.",
+    "DON JUAN PEREZ GIL, mayor de edad, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. "
+    "12345678Z.",
+    "DON LUIS SANZ RUBIO, mayor de edad, vecino de MADRID, con domicilio en la calle Prado, 7, con D.N.I. "
+    "87654321X.",
     "INTERVIENEN en su propio nombre.",
     "EXPONEN",
     "Que es suya la finca.",
@@ -95,7 +97,7 @@ TEST(Sesion, GuardaDondeLeyoCadaDato) {
     EXPECT_EQ(texto(*sesion.Cabecera.Origen.NumeroProtocolo), "DOS MIL CINCO");
     EXPECT_EQ(texto(sesion.Cabecera.Origen.Conceptos.at(0)), "COMPRAVENTA");
     EXPECT_EQ(texto(*sesion.Cabecera.Origen.Lugar), "Madrid");
-    EXPECT_EQ(texto(*sesion.Cabecera.Origen.Fecha), "dos de marzo de dos mil doce.");
+    EXPECT_EQ(texto(*sesion.Cabecera.Origen.Fecha), "dos de marzo de dos mil doce");
     EXPECT_EQ(texto(*sesion.Cabecera.Origen.Notario), "ALFONSO REQUEJO");
     EXPECT_FALSE(sesion.Cabecera.Origen.NotarioSustituto);
     ASSERT_EQ(sesion.OrigenCuantias.size(), 2U);
@@ -114,7 +116,8 @@ TEST(Sesion, DejaLaSeleccionAlPrincipioYLosMarcadoresEnElDocumento) {
     EXPECT_EQ(escena.Documento().GetSeleccion().GetIntervalo(), (TIntervalo{0, 0}));
     std::vector<std::string> nombres;
     for (const auto& marcador : escena.Documento().GetMarcadores()) nombres.push_back(marcador.Nombre);
-    EXPECT_EQ(nombres, (std::vector<std::string>{"CABECERA", "COMPARECIENTES", "INTERVINIENTES", "TRANSMISION"}));
+    EXPECT_EQ(nombres,
+              (std::vector<std::string>{"CABECERA", "COMPARECIENTES", "INTERVINIENTES", "TRANSMISION"}));
 }
 
 TEST(Sesion, SoloPreguntaPorElNotarioCuandoHayRevision) {
@@ -185,7 +188,8 @@ TEST(Sesion, SinVariablesNoHayEmpleadoNiMarcas) {
 // ---- What runs when
 
 TEST(Sesion, SinComparecientesNoHayIntervinientesNiTestamento) {
-    TEscena escena({"TESTAMENTO ABIERTO", "COMPARECE", "nadie", "INTERVIENE", "EXPONE", "nacido en Madrid, Madrid."});
+    TEscena escena(
+        {"TESTAMENTO ABIERTO", "COMPARECE", "nadie", "INTERVIENE", "EXPONE", "nacido en Madrid, Madrid."});
     (void)escena.Sesion.Analiza(true);
     EXPECT_TRUE(escena.Sesion.HayAlgunTipoTestamento());
     EXPECT_TRUE(escena.Sesion.OtorgantesEncontrados.Lista.Vacia());
@@ -195,16 +199,19 @@ TEST(Sesion, SinComparecientesNoHayIntervinientesNiTestamento) {
 }
 
 TEST(Sesion, ElTestamentoDaSusDatosAlPrimerOtorgante) {
-    TEscena escena({"TESTAMENTO ABIERTO", "COMPARECE",
-                    "DON JUAN PEREZ GIL, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 12345678Z.",
-                    "DON LUIS SANZ RUBIO, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 87654321X.",
-                    "EXPONE", "Que es nacido en Madrid, el dia 2 de marzo de 1940, hijo de DON PEDRO PEREZ y de DON LUIS GIL."});
+    TEscena escena(
+        {"TESTAMENTO ABIERTO", "COMPARECE",
+         "DON JUAN PEREZ GIL, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 12345678Z.",
+         "DON LUIS SANZ RUBIO, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 87654321X.",
+         "EXPONE",
+         "Que es nacido en Madrid, el dia 2 de marzo de 1940, hijo de DON PEDRO PEREZ y de DON LUIS GIL."});
     (void)escena.Sesion.Analiza(true);
     ASSERT_EQ(escena.Sesion.Otorgantes.Lista.Cuenta(), 2U);
     const TROtorgante& testador = *escena.Sesion.Otorgantes.Lista[0].Objeto;
     EXPECT_EQ(testador.IntervencionINTI, 12);
     EXPECT_EQ(testador.LugarNacimiento, "MADRID");
-    EXPECT_EQ(testador.FechaNacimiento, (TFecha{std::chrono::year(1940), std::chrono::March, std::chrono::day(2)}));
+    EXPECT_EQ(testador.FechaNacimiento,
+              (TFecha{std::chrono::year(1940), std::chrono::March, std::chrono::day(2)}));
     EXPECT_EQ(escena.Sesion.Otorgantes.Lista[1].Objeto->IntervencionINTI, 99);
     const TOrigen& lugar = escena.Sesion.Otorgantes.Origenes[0].at("LugarNacimiento");
     EXPECT_EQ(lugar, (TOrigen{6, {17, 6}}));
@@ -217,8 +224,10 @@ TEST(Sesion, ElPrestamoSeLeeSoloCuandoUnConceptoLoEs) {
         (void)escena.Sesion.Analiza(true);
         const auto& sesion = escena.Sesion;
         EXPECT_EQ(sesion.HayAlgunTipoPrestamo(), prestamo);
-        EXPECT_EQ(sesion.Operacion.Plazos, prestamo ? std::vector<std::string>{"360"} : std::vector<std::string>{});
-        EXPECT_EQ(sesion.Operacion.TAEs, prestamo ? std::vector<std::string>{"3,5"} : std::vector<std::string>{});
+        EXPECT_EQ(sesion.Operacion.Plazos,
+                  prestamo ? std::vector<std::string>{"360"} : std::vector<std::string>{});
+        EXPECT_EQ(sesion.Operacion.TAEs,
+                  prestamo ? std::vector<std::string>{"3,5"} : std::vector<std::string>{});
         EXPECT_EQ(sesion.Operacion.TipoInteres, prestamo ? 2 : 0);
         if (!prestamo) continue;
         EXPECT_EQ(sesion.OrigenOperacion.Plazos, (std::vector<TOrigen>{{4, {15, 3}}}));
@@ -229,17 +238,22 @@ TEST(Sesion, ElPrestamoSeLeeSoloCuandoUnConceptoLoEs) {
 
 TEST(Sesion, LasFincasSonLosMarcadoresQueLasNombran) {
     TEscena escena({"uno", "dos"}, {},
-                   {{"XFINCA_1", {0, 1}}, {"FINCA_1", {0, 1}}, {"FINCA_12_B", {0, 1}}, {"OTRO", {0, 1}}, {"finca_9", {0, 1}}});
+                   {{"XFINCA_1", {0, 1}},
+                    {"FINCA_1", {0, 1}},
+                    {"FINCA_12_B", {0, 1}},
+                    {"OTRO", {0, 1}},
+                    {"finca_9", {0, 1}}});
     (void)escena.Sesion.Analiza(true);
     EXPECT_EQ(escena.Sesion.Fincas, (std::vector<std::string>{"1", "12_B"}));
 }
 
 TEST(Sesion, UnRepresentantePasaASerlo) {
-    TEscena escena({"COMPRAVENTA", "COMPARECEN",
-                    "DON JUAN PEREZ GIL, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 12345678Z.",
-                    "INTERVIENEN",
-                    "a) DON JUAN PEREZ GIL, en representacion de \"BODEGAS RIO, S.L.\", con CIF B12345674.",
-                    "EXPONEN", "Nada."});
+    TEscena escena(
+        {"COMPRAVENTA", "COMPARECEN",
+         "DON JUAN PEREZ GIL, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 12345678Z.",
+         "INTERVIENEN",
+         "a) DON JUAN PEREZ GIL, en representacion de \"BODEGAS RIO, S.L.\", con CIF B12345674.", "EXPONEN",
+         "Nada."});
     (void)escena.Sesion.Analiza(true);
     ASSERT_EQ(escena.Sesion.Otorgantes.Lista.Cuenta(), 2U);
     EXPECT_EQ(escena.Sesion.Otorgantes.Lista[0].Objeto->IntervencionVRK, 1);
@@ -250,9 +264,10 @@ TEST(Sesion, UnRepresentantePasaASerlo) {
 }
 
 TEST(Sesion, ElUltimoParrafoDeIntervinientesTambienDaConceptos) {
-    TEscena escena({"PRESTAMO HIPOTECARIO", "COMPARECEN",
-                    "DON JUAN PEREZ GIL, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 12345678Z.",
-                    "INTERVIENEN", "Un TESTAMENTO que no cuenta.", "Otorgan esta COMPRAVENTA y", "EXPONEN", "Nada."});
+    TEscena escena(
+        {"PRESTAMO HIPOTECARIO", "COMPARECEN",
+         "DON JUAN PEREZ GIL, vecino de MADRID, con domicilio en la calle Mayor, 5, con D.N.I. 12345678Z.",
+         "INTERVIENEN", "Un TESTAMENTO que no cuenta.", "Otorgan esta COMPRAVENTA y", "EXPONEN", "Nada."});
     (void)escena.Sesion.Analiza(true);
     std::vector<std::string> conceptos;
     for (const auto& linea : escena.Sesion.Cabecera.Conceptos) conceptos.push_back(linea.Texto);
@@ -279,13 +294,14 @@ TEST(Sesion, SinProcesadorDeTextosNoHayAnalisis) {
     EXPECT_THROW((void)otra.Analiza(true), ErrorWord);
 }
 
-// Whatever operation of the word processor fails: one error comes out, the window is closed, no dialog shows, the
-// analysis is not accepted, and the next one works.
+// Whatever operation of the word processor fails: one error comes out, the window is closed, no dialog shows,
+// the analysis is not accepted, and the next one works.
 TEST(Sesion, CualquierFalloCierraLaVentanaYNoMuestraElDialogo) {
     TEscena entera(COMPRAVENTA);
     entera.Documento().FallaEnLaOperacion(0);
     (void)entera.Sesion.Analiza(true);
-    const int operaciones = entera.Documento().Operaciones() - 1;  // the last one is the review's reading of the XML
+    const int operaciones =
+        entera.Documento().Operaciones() - 1;  // the last one is the review's reading of the XML
     ASSERT_GT(operaciones, 30);
 
     TEscena escena(COMPRAVENTA);
@@ -356,9 +372,10 @@ TEST(Sesion, DosEscriturasDeDistintoIdiomaALaVezNoSeMolestan) {
     TEscena escena(COMPRAVENTA);
     const TContenidoDocumento castellana{Parrafos(COMPRAVENTA), {}, {}};
     const TContenidoDocumento catalana{
-        Parrafos({"NUMERO DOS MIL TRES", "A Vic, el dotze de gener de dos mil dos.", "Davant meu, JOAN SERRA, notari,",
-                  "COMPAREIXEN", "EXPOSEN", "preu de 30 EUROS"}),
-        {}, {}};
+        Parrafos({"NUMERO DOS MIL TRES", "A Vic, el dotze de gener de dos mil dos.",
+                  "Davant meu, JOAN SERRA, notari,", "COMPAREIXEN", "EXPOSEN", "preu de 30 EUROS"}),
+        {},
+        {}};
     const auto analiza = [](const TContenidoDocumento& contenido) {
         TAplicacionMemoria aplicacion(std::make_unique<TDocumentoMemoria>(contenido));
         TClassAnalizadorAbierto sesion(nullptr, &aplicacion);
@@ -367,12 +384,14 @@ TEST(Sesion, DosEscriturasDeDistintoIdiomaALaVezNoSeMolestan) {
     };
     // The scene's screen and review belong to one thread.
     class TPantallaMuda : public TPantalla {
-        [[nodiscard]] std::unique_ptr<TVentanaMensaje> Abre(std::string_view /*t*/, TComponente* /*p*/) override {
+        [[nodiscard]] std::unique_ptr<TVentanaMensaje> Abre(std::string_view /*t*/,
+                                                            TComponente* /*p*/) override {
             return nullptr;
         }
     } muda;
     class TRevisorMudo : public TVistaPreseleccion {
-        [[nodiscard]] bool MuestraModal(TFListaConceptosPreseleccionados& /*d*/, TComponente* /*p*/) override {
+        [[nodiscard]] bool MuestraModal(TFListaConceptosPreseleccionados& /*d*/,
+                                        TComponente* /*p*/) override {
             return false;
         }
     } revisor;
@@ -381,7 +400,8 @@ TEST(Sesion, DosEscriturasDeDistintoIdiomaALaVezNoSeMolestan) {
     const std::string solaCastellana = analiza(castellana);
     const std::string solaCatalana = analiza(catalana);
     EXPECT_TRUE(solaCastellana.starts_with("ESCRITURA EN CASTELLANO\r\nNUMERO       : 2005\r\n"));
-    EXPECT_TRUE(solaCatalana.starts_with("ESCRITURA EN CATALAN\r\nNUMERO       : 2003\r\nFECHA        : 12/01/2002\r\n"))
+    EXPECT_TRUE(solaCatalana.starts_with(
+        "ESCRITURA EN CATALAN\r\nNUMERO       : 2003\r\nFECHA        : 12/01/2002\r\n"))
         << solaCatalana;
 
     constexpr int VECES = 20;

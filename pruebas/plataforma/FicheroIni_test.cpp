@@ -21,7 +21,9 @@ struct TCasoPalabras {
 
 class Palabras : public testing::TestWithParam<TCasoPalabras> {};
 
-TEST_P(Palabras, SonLasEntradasNumeradas) { EXPECT_EQ(TFicheroIni(GetParam().Bytes).Palabras("NIF"), GetParam().Esperadas); }
+TEST_P(Palabras, SonLasEntradasNumeradas) {
+    EXPECT_EQ(TFicheroIni(GetParam().Bytes).Palabras("NIF"), GetParam().Esperadas);
+}
 
 INSTANTIATE_TEST_SUITE_P(
     Ficheros, Palabras,
@@ -41,9 +43,11 @@ INSTANTIATE_TEST_SUITE_P(
         TCasoPalabras{"blancos", "[NIF]\nNumPalabras = 2 \n 1 = \tA B \n2=\" C \"\n", {"A B", " C "}},
         TCasoPalabras{"una_comilla", "[NIF]\nNumPalabras=2\n1=\"\n2=\"\"\n", {"\"", ""}},
         TCasoPalabras{"igual_en_el_valor", "[NIF]\nNumPalabras=1\n1=A=B\n", {"A=B"}},
-        TCasoPalabras{"comentarios", "; uno\n[NIF]\n;NumPalabras=9\nNumPalabras=1\n1=A ; parte\n", {"A ; parte"}},
+        TCasoPalabras{
+            "comentarios", "; uno\n[NIF]\n;NumPalabras=9\nNumPalabras=1\n1=A ; parte\n", {"A ; parte"}},
         TCasoPalabras{"minusculas", "[nif]\nnumpalabras=1\n1=a\n", {"a"}},
-        TCasoPalabras{"dos_secciones_iguales", "[NIF]\nNumPalabras=1\n1=A\n[NIF]\nNumPalabras=1\n1=B\n", {"A"}},
+        TCasoPalabras{
+            "dos_secciones_iguales", "[NIF]\nNumPalabras=1\n1=A\n[NIF]\nNumPalabras=1\n1=B\n", {"A"}},
         TCasoPalabras{"dos_claves_iguales", "[NIF]\nNumPalabras=1\nNumPalabras=2\n1=A\n1=B\n2=C\n", {"A"}},
         TCasoPalabras{"otra_seccion", "[NIE]\nNumPalabras=1\n1=A\n", {}},
         TCasoPalabras{"claves_sin_seccion", "NumPalabras=1\n1=A\n", {}},
@@ -108,7 +112,8 @@ TEST_F(FicheroEnDisco, UnCambioDelMismoLargoEnElMismoInstanteSeVe) {
     }
 }
 
-// An old file, which is kept in memory, and then another one put in its place with the same length and the same time.
+// An old file, which is kept in memory, and then another one put in its place with the same length and the
+// same time.
 TEST_F(FicheroEnDisco, UnFicheroPuestoEnLugarDeOtroSeVe) {
     const auto antiguo = std::filesystem::file_time_type::clock::now() - std::chrono::hours(24);
     Escribe("[NIF]\nNumPalabras=1\n1=A\n");

@@ -174,7 +174,8 @@ TEST_P(DatosPersonalesDificiles, NadaSeLeeFueraDelTexto) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Todos, DatosPersonalesDificiles, testing::Range<std::size_t>(0, RECONOCEDORES.size()),
+INSTANTIATE_TEST_SUITE_P(Todos, DatosPersonalesDificiles,
+                         testing::Range<std::size_t>(0, RECONOCEDORES.size()),
                          [](const auto& caso) { return std::string(RECONOCEDORES[caso.param].Nombre); });
 
 TEST(OtorgantesConocidosDificiles, NombresEnTextosDificiles) {

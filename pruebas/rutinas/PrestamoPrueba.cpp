@@ -49,7 +49,7 @@ TEST_F(Prestamo, BuscaPlazo) {
                   {"MESES", {}, {}, {}},
                   {"unos meses", {}, {}, {}},
                   {"plazo de 360 meses", {}, {"360"}, {"360"}},
-                  {"trescientos sesenta (360) meses", {}, {"360"}, {"(360)"}},
+                  {"trescientos sesenta (360) meses", {}, {"360"}, {"360"}},
                   {"TRESCIENTOS SESENTA MESES, luego 360 meses", {}, {"360"}, {"TRESCIENTOS SESENTA"}},
                   {"treinta y dos meses y 12 mensualidades", {}, {"32", "12"}, {"treinta y dos", "12"}},
                   // Equal by value with what the list holds, whose texts that are no numbers are 0.
