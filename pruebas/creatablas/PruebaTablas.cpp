@@ -34,18 +34,6 @@ bool EsCodigoDe(std::string_view codigo, std::string_view provincia) {
     return SonCifras(codigo, 5) && codigo.starts_with(provincia);
 }
 
-bool EsLetra(char c) {
-    return c >= 'A' && c <= 'Z';
-}
-
-bool OcurreComoPalabra(std::string_view nombre, std::string_view texto) {
-    for (auto p = texto.find(nombre); p != std::string_view::npos; p = texto.find(nombre, p + 1)) {
-        const std::size_t fin = p + nombre.size();
-        if ((p == 0 || !EsLetra(texto[p - 1])) && (fin == texto.size() || !EsLetra(texto[fin]))) return true;
-    }
-    return false;
-}
-
 TEST(TablasDeSerie, EstanTodasConSusCamposYConFilas) {
     for (const TEsquema& esquema : Esquemas()) {
         const auto tabla = Abre(esquema.Tabla, "");
@@ -63,25 +51,6 @@ TEST(TablasDeSerie, SusIndicesSeAbren) {
         {"MUNICIPI.DBF", "CODPOSTAL"}, {"POSTAL.DBF", "NOMBREVIA"}, {"TIPO_VIA.DBF", "CODIGO"},
         {"TIPO_INT.DBF", "CODIGO"}};
     for (const auto& [tabla, indice] : INDICES) EXPECT_NO_THROW(Abre(tabla, indice)) << tabla << indice;
-}
-
-TEST(TablasDeSerie, LosNombresDePilaEstanPlegadosYUnaVez) {
-    const std::vector<std::string> nombres = Columna("PILA", "", "NOMBRE");
-    EXPECT_EQ(std::set(nombres.begin(), nombres.end()).size(), nombres.size());
-    EXPECT_GT(nombres.size(), 600U);
-    for (const std::string& nombre : nombres) {
-        EXPECT_FALSE(nombre.empty());
-        EXPECT_EQ(nombre, Pliega(nombre));
-        EXPECT_EQ(nombre.find("  "), std::string::npos) << nombre;
-        EXPECT_NE(nombre.front(), ' ');
-    }
-    const auto pila = Abre("PILA", "NOMBRE");
-    for (const std::string_view nombre :
-         {"María del Pilar"_ansi, "JUAN DE DIOS"_ansi, "Begoña"_ansi, "Núria"_ansi, "JOSEP MARIA"_ansi,
-          "MARIA DE LOS ANGELES"_ansi, "Llorenç"_ansi, "FRANCISCO DE PAULA"_ansi})
-        EXPECT_TRUE(TBBusca(*pila, {{"NOMBRE", nombre}}, true)) << nombre;
-    for (const std::string_view apellido : {"PEREZ", "JUAN MARTIN", "GARCIA", "JUAN PEREZ"})
-        EXPECT_FALSE(TBBusca(*pila, {{"NOMBRE", apellido}}, true)) << apellido;
 }
 
 TEST(TablasDeSerie, LosTiposTienenNumeroYNombrePropios) {
@@ -182,42 +151,6 @@ TEST(TablasDeSerie, LasProvinciasTienenDosCifrasYLosPaisesTres) {
         ASSERT_TRUE(TBBusca(*porCodigo, {{"CODIGO", codigo}}, true)) << codigo;
         EXPECT_EQ(porCodigo->Texto("PROVINCIA"), nombre);
     }
-}
-
-TEST(TablasDeSerie, LosPaisesSeEncuentranPlegados) {
-    static constexpr std::string_view CAMPOS[] = {"PROVINCIA",  "NACIONALID", "GENTIL1_MA", "GENTIL1_FE",
-                                                  "GENTIL2_MA", "GENTIL2_FE", "NACIONA_CA", "GEN1_MA_CA",
-                                                  "GEN1_FE_CA", "GEN2_MA_CA", "GEN2_FE_CA"};
-    std::set<std::string> paises;
-    for (const auto tabla = Abre("PROVIN", "ALFABETICO"); !tabla->Fin(); tabla->Siguiente()) {
-        for (const std::string_view campo : CAMPOS) {
-            const std::string valor = tabla->Texto(campo);
-            EXPECT_EQ(valor, Pliega(valor)) << campo;
-            if (campo.ends_with("_CA")) {
-                EXPECT_EQ(valor.find_first_of("ÄËÏÖÜ"_ansi), std::string::npos) << valor;
-                const auto almohadilla = valor.find('#');
-                EXPECT_TRUE(almohadilla == std::string::npos ||
-                            std::string_view("AEIOU").find(valor[almohadilla + 1]) != std::string_view::npos)
-                    << valor;
-            } else {
-                EXPECT_EQ(valor.find('#'), std::string::npos) << valor;
-            }
-        }
-        if (tabla->Entero("GRUPO") != 2) continue;
-        const std::string pais = tabla->Texto("PROVINCIA");
-        EXPECT_TRUE(paises.insert(pais).second) << pais;
-        for (const std::string_view campo : {"NACIONALID", "GENTIL1_MA", "GENTIL1_FE", "NACIONA_CA"})
-            EXPECT_FALSE(tabla->Texto(campo).empty()) << pais << campo;
-    }
-    EXPECT_GE(paises.size(), 80U);
-    for (const char* preferido : {"REINO UNIDO", "HOLANDA", "BENIN", "BURUNDI", "COREA NORTE", "BURKINA FASO",
-                                  "LESOTHO", "ISLAS SEYCHELLES", "SRI LANKA", "GUINEA BISSAU", "MALASIA",
-                                  "ISLAS MALDIVAS", "MADAGASCAR", "RUANDA"})
-        EXPECT_EQ(paises.count(preferido), 1U) << preferido;
-    // A country named inside another's name would be taken for it.
-    for (const std::string& uno : paises)
-        for (const std::string& otro : paises)
-            EXPECT_TRUE(uno == otro || !OcurreComoPalabra(uno, otro)) << uno << " in " << otro;
 }
 
 TEST(TablasDeSerie, LasIntervencionesVanDeUnoEnUnoYAlFinal99) {
