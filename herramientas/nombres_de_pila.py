@@ -7,6 +7,7 @@
 The names are those of the package's Spanish list and the hand-kept ones beside PILA.csv:
 
     nombres_propios.csv     names that the package lacks, and compound ones that stay whatever their last word
+    nombres_abreviados.csv  names as they are abbreviated: FCO. JAVIER, Mª JOSE
     nombres_compuestos.csv  groups of words: each first word (LUGAR 1) with each second one (LUGAR 2) of its group
     nombres_apellidos.csv   words that are surnames more often than the end of a compound name
 
@@ -62,7 +63,7 @@ def compuestos():
 def nombres(carpeta):
     apellidos = {fila["APELLIDO"] for fila in lee("nombres_apellidos.csv")}
     paquete = {n for n in del_paquete(carpeta) if " " not in n or n.rsplit(" ", 1)[1] not in apellidos}
-    propios = {fila["NOMBRE"] for fila in lee("nombres_propios.csv")}
+    propios = {fila["NOMBRE"] for fichero in ("propios", "abreviados") for fila in lee(f"nombres_{fichero}.csv")}
     todos = paquete | compuestos() | propios
     for nombre in todos:
         nombre.encode("cp1252")
