@@ -84,7 +84,8 @@ def lee_filas(nombre, oficiales):
         filas = list(csv.DictReader(abierto))
     for linea, fila in enumerate(filas, 2):
         if oficiales.get(fila["COD_INE"]) != fila["OFICIAL"]:
-            raise Error(f"{nombre}:{linea}: {fila['COD_INE']} is {oficiales.get(fila['COD_INE'])}, not {fila['OFICIAL']}")
+            suyo = oficiales.get(fila["COD_INE"])
+            raise Error(f"{nombre}:{linea}: {fila['COD_INE']} is {suyo}, not {fila['OFICIAL']}")
         fila["LINEA"] = f"{nombre}:{linea}: {fila['OFICIAL']}"
     return filas
 
@@ -109,9 +110,10 @@ def reune(oficiales, otras):
     codigos.update(
         (corto, list(suyos)) for corto, suyos in cortos.items() if corto and corto not in codigos and len(suyos) == 1
     )
-    primeros = {
-        variante: fila["COD_INE"] for fila in otras if fila["USO"] == "PRIMERO" for variante in variantes(fila["FORMA"])
-    }
+    primeros = {}
+    for fila in otras:
+        if fila["USO"] == "PRIMERO":
+            primeros.update(dict.fromkeys(variantes(fila["FORMA"]), fila["COD_INE"]))
     for nombre, suyos in codigos.items():
         if len(suyos) > 1 and primeros.get(nombre) not in suyos:
             raise Error(f"{nombre}: which of {suyos} is the first?")
