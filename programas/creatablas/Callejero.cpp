@@ -51,7 +51,7 @@ std::vector<std::filesystem::path> BuscaFicheros(const std::filesystem::path& ca
     return ficheros;
 }
 
-// The description that most of the file's first lines fit.
+// The description that most of the file's first lines fit; any for an empty file.
 const TDisenoRegistro& RegistroDe(const std::filesystem::path& fichero, const TDisenoFichero& diseno) {
     std::vector<int> votos(diseno.Registros.size(), 0);
     std::size_t primera = 0;
@@ -64,7 +64,7 @@ const TDisenoRegistro& RegistroDe(const std::filesystem::path& fichero, const TD
             if (diseno.Registros[r].Longitud == linea->size()) ++votos[r];
     }
     const auto mejor = std::max_element(votos.begin(), votos.end());
-    if (*mejor > 0) return diseno.Registros[static_cast<std::size_t>(mejor - votos.begin())];
+    if (*mejor > 0 || primera == 0) return diseno.Registros[static_cast<std::size_t>(mejor - votos.begin())];
     std::string longitudes;
     for (const TDisenoRegistro& registro : diseno.Registros)
         longitudes += (longitudes.empty() ? "" : " o ") + std::to_string(registro.Longitud);
