@@ -11,6 +11,7 @@
 
 #include "adaptadores/dbase/ProveedorDbase.h"
 #include "plataforma/Ansi.h"
+#include "plataforma/Rnumcad.h"
 #include "plataforma/Rut.h"
 #include "programas/creatablas/LectorCsv.h"
 
@@ -163,7 +164,8 @@ TEST(Municipios, SeEncuentranConLosNombresQueLesDanLasEscrituras) {
         const auto fila = std::find_if(Filas().begin(), Filas().end(), [&](const TFilaMunicipio& una) {
             return una.CodINE == caso.CodINE && una.Nombre == caso.Nombre;
         });
-        if (fila != Filas().end()) EXPECT_EQ(fila->Registro, caso.Registro);
+        ASSERT_NE(fila, Filas().end()) << caso.Nombre;
+        EXPECT_EQ(fila->Registro, caso.Registro);
     }
     for (const std::string_view nadie : {"BALLESTERO, EL", "BALLESTERO", "SPRINGFIELD", "LEEDS"})
         EXPECT_FALSE(CodigosPorNombre().contains(nadie)) << nadie;
