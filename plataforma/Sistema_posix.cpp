@@ -48,7 +48,7 @@ std::filesystem::path FicheroTemporal_(const std::filesystem::path& carpeta, std
     for (;;) {
         std::string nombre(prefijo);
         nombre.append(NombreAlAzar()).append(".").append(extension);
-        const auto fichero = donde / nombre;
+        auto fichero = donde / nombre;
         const int abierto =
             open(fichero.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
         if (abierto >= 0) {

@@ -48,10 +48,15 @@ bool ColumnaPosible(const TColumnaDbf& columna) {
            columna.Ancho <= maximo;
 }
 
-std::string Cabecera(const std::vector<TColumnaDbf>& columnas, std::size_t filas,
-                     std::chrono::year_month_day fecha) {
+std::size_t LongitudRegistro(const std::vector<TColumnaDbf>& columnas) {
     std::size_t registro = 1;
     for (const TColumnaDbf& columna : columnas) registro += AnchoDe(columna);
+    return registro;
+}
+
+std::string Cabecera(const std::vector<TColumnaDbf>& columnas, std::size_t filas,
+                     std::chrono::year_month_day fecha) {
+    const std::size_t registro = LongitudRegistro(columnas);
     const std::size_t longitud = CABECERA_DBF + columnas.size() * DESCRIPTOR_DBF + 1;
     std::string bytes(CABECERA_DBF, '\0');
     bytes[0] = DBASE_III;
@@ -87,15 +92,18 @@ std::string Registro(const std::filesystem::path& fichero, const std::vector<TCo
 }
 
 std::string Tabla(const std::filesystem::path& fichero, const std::vector<TColumnaDbf>& columnas,
-                  const std::vector<TFilaDbf>& filas, std::chrono::year_month_day fecha) {
+                  std::size_t filas, const std::function<TFilaDbf(std::size_t)>& fila,
+                  std::chrono::year_month_day fecha) {
     if (columnas.empty() || !std::all_of(columnas.begin(), columnas.end(), ColumnaPosible))
         Falla(fichero, "sus campos no son posibles");
-    if (filas.size() > std::numeric_limits<std::uint32_t>::max()) Falla(fichero, "tiene demasiadas filas");
-    std::string bytes = Cabecera(columnas, filas.size(), fecha);
+    if (filas > std::numeric_limits<std::uint32_t>::max()) Falla(fichero, "tiene demasiadas filas");
+    std::string bytes = Cabecera(columnas, filas, fecha);
     for (const TColumnaDbf& columna : columnas) bytes += Descriptor(columna);
     bytes += FIN_DESCRIPTORES;
-    for (const TFilaDbf& fila : filas) bytes += Registro(fichero, columnas, fila);
-    return bytes + FIN_FICHERO_DBF;
+    bytes.reserve(bytes.size() + filas * LongitudRegistro(columnas) + 1);
+    for (std::size_t i = 0; i < filas; ++i) bytes += Registro(fichero, columnas, fila(i));
+    bytes += FIN_FICHERO_DBF;
+    return bytes;
 }
 
 bool EsEntero(std::string_view valor) {
@@ -125,8 +133,15 @@ std::string CausaNoCabe(const TColumnaDbf& columna, std::string_view valor) {
 
 void EscribeDbf(const std::filesystem::path& fichero, const std::vector<TColumnaDbf>& columnas,
                 const std::vector<TFilaDbf>& filas, std::chrono::year_month_day fecha) {
+    EscribeDbf(
+        fichero, columnas, filas.size(), [&](std::size_t i) { return filas[i]; }, fecha);
+}
+
+void EscribeDbf(const std::filesystem::path& fichero, const std::vector<TColumnaDbf>& columnas,
+                std::size_t filas, const std::function<TFilaDbf(std::size_t)>& fila,
+                std::chrono::year_month_day fecha) {
     using std::filesystem::perms;
-    const std::string bytes = Tabla(fichero, columnas, filas, fecha);
+    const std::string bytes = Tabla(fichero, columnas, filas, fila, fecha);
     std::error_code error;
     const auto anterior = std::filesystem::status(fichero, error);
     const perms permisos = std::filesystem::exists(anterior) ? anterior.permissions()

@@ -3,7 +3,9 @@
 // Writes dBASE III tables with Windows-1252 texts.
 
 #include <chrono>
+#include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -28,5 +30,11 @@ using TFilaDbf = std::vector<std::string>;
 // values or one does not fit, or the file cannot be written; the old one is then untouched.
 void EscribeDbf(const std::filesystem::path& fichero, const std::vector<TColumnaDbf>& columnas,
                 const std::vector<TFilaDbf>& filas, std::chrono::year_month_day fecha);
+
+// The same for a table of many rows, asked for one after another: `fila(i)` gives the row i, 0 to `filas`
+// - 1.
+void EscribeDbf(const std::filesystem::path& fichero, const std::vector<TColumnaDbf>& columnas,
+                std::size_t filas, const std::function<TFilaDbf(std::size_t)>& fila,
+                std::chrono::year_month_day fecha);
 
 }  // namespace analizador

@@ -4,6 +4,8 @@
 #include <fstream>
 #include <utility>
 
+#include "adaptadores/dbase/OrdenDbf.h"
+#include "adaptadores/dbase/TablaOrdenadaDbf.h"
 #include "plataforma/Ansi.h"
 
 namespace analizador {
@@ -105,7 +107,12 @@ std::shared_ptr<const TTablaEnMemoria> TProveedorDbase::Tabla(const std::filesys
 std::unique_ptr<TTabla> TProveedorDbase::Abre(std::string_view alias, std::string_view fichero,
                                               std::string_view indice) {
     const std::filesystem::path ruta = BuscaFichero(Carpeta(alias), ConExtension(fichero));
-    return std::make_unique<TTablaDbase>(Tabla(ruta), indice);
+    const auto abreEntera = [this, ruta, indice = std::string(indice)]() -> std::unique_ptr<TTabla> {
+        return std::make_unique<TTablaDbase>(Tabla(ruta), indice);
+    };
+    if (indice.empty() || OrdenAnotado(ruta, MarcaDeFichero(ruta)) != indice) return abreEntera();
+    return std::make_unique<TTablaOrdenadaDbf>(ruta, EnMayusculas(Ansi(ruta.stem())), std::string(indice),
+                                               Ansi(ruta), abreEntera);
 }
 
 }  // namespace analizador

@@ -16,8 +16,9 @@
 namespace analizador {
 
 // Every opening sees the file as it is at that moment; in between no file stays open. The content is kept in
-// memory with its indexes for as long as the file's mark says that it is the same. Usable from several
-// threads.
+// memory with its indexes for as long as the file's mark says that it is the same; of a table noted to lie in
+// the order of the index asked for (OrdenDbf.h) only the rows of the ranges are read. Usable from several
+// threads; the tables opened must not outlive it.
 class TProveedorDbase : public TProveedorTablas {
   public:
     // All aliases stand for one folder.

@@ -36,6 +36,9 @@ int EnteroDe(std::optional<double> numero) {
 TTablaEnMemoria::TTablaEnMemoria(std::string nombre, std::string contenido, std::string fichero)
     : nombre_(std::move(nombre)), datos_(std::move(contenido), std::move(fichero)) {}
 
+TTablaEnMemoria::TTablaEnMemoria(std::string nombre, TDatosDbf datos)
+    : nombre_(std::move(nombre)), datos_(std::move(datos)) {}
+
 const TIndiceDbf& TTablaEnMemoria::Indice(std::string_view nombre) const {
     const std::lock_guard guarda(cerrojo_);
     const auto hecho = indices_.find(nombre);

@@ -23,6 +23,7 @@ class TTablaEnMemoria {
   public:
     // `nombre`: the table's name without folder and extension, in capitals. The rest as TDatosDbf takes it.
     TTablaEnMemoria(std::string nombre, std::string contenido, std::string fichero);
+    TTablaEnMemoria(std::string nombre, TDatosDbf datos);
 
     [[nodiscard]] const TDatosDbf& Datos() const { return datos_; }
     // Throws ErrorTabla when the table has no such index. The index lives as long as this.

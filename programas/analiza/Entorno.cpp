@@ -36,15 +36,8 @@ void ExigeVocabulario(const fs::path& fichero) {
 }
 
 TConfigIni LeeConfig(const std::optional<fs::path>& config) {
-    const fs::path aplicacion = CarpetaAplicacion();
-    PonCarpetaAplicacion(aplicacion);
-    if (config) {
-        ExigeCarpeta(*config);
-        PonCarpetaTokens(*config);
-    }
-    ExigeVocabulario(Rutas().CASTELLANO_INI);
-    ExigeVocabulario(Rutas().CATALAN_INI);
-    return {Rutas().PATH_TOKEN_AP / "OFICINA.INI", aplicacion};
+    EligeVocabularios(config);
+    return {Rutas().PATH_TOKEN_AP / "OFICINA.INI", Rutas().PATH_APLICACION};
 }
 
 fs::path ElegidaDe(const std::optional<fs::path>& tablas, const TConfigIni& config) {
@@ -53,6 +46,16 @@ fs::path ElegidaDe(const std::optional<fs::path>& tablas, const TConfigIni& conf
 }
 
 }  // namespace
+
+void EligeVocabularios(const std::optional<fs::path>& config) {
+    PonCarpetaAplicacion(CarpetaAplicacion());
+    if (config) {
+        ExigeCarpeta(*config);
+        PonCarpetaTokens(*config);
+    }
+    ExigeVocabulario(Rutas().CASTELLANO_INI);
+    ExigeVocabulario(Rutas().CATALAN_INI);
+}
 
 TEntorno::TEntorno(const std::optional<fs::path>& config, const std::optional<fs::path>& tablas)
     : FConfig(LeeConfig(config)), FTablas(ElegidaDe(tablas, FConfig)) {}

@@ -36,13 +36,16 @@ TJson Cabecera(const TClassParrafoCabecera& cabecera) {
             {"NotarioSustituto", Utf8DeAnsi(cabecera.NotarioSustituto)}};
 }
 
+TJson Concepto(const TRConcepto& concepto) {
+    return {{"NumeroTipo", concepto.NumeroTipo},
+            {"Nombre", Utf8DeAnsi(concepto.Nombre)},
+            {"CodOficial", Utf8DeAnsi(concepto.CodOficial)},
+            {"Prestamo", concepto.Prestamo}};
+}
+
 TJson Conceptos(const ListaTextos<TRConcepto>& conceptos) {
     TJson json = TJson::array();
-    for (const auto& linea : conceptos)
-        json.push_back({{"NumeroTipo", linea.Objeto->NumeroTipo},
-                        {"Nombre", Utf8DeAnsi(linea.Objeto->Nombre)},
-                        {"CodOficial", Utf8DeAnsi(linea.Objeto->CodOficial)},
-                        {"Prestamo", linea.Objeto->Prestamo}});
+    for (const auto& linea : conceptos) json.push_back(Concepto(*linea.Objeto));
     return json;
 }
 
@@ -91,6 +94,18 @@ TJson Operacion(const TClassOperacion& operacion) {
 }
 
 }  // namespace
+
+std::string LineaJsonModelo() {
+    const TJson json = {{"idioma", ""},
+                        {"Cabecera", Cabecera({})},
+                        {"Conceptos", TJson::array({Concepto({})})},
+                        {"Cuantias", TJson::array()},
+                        {"Otorgantes", TJson::array({Otorgante({})})},
+                        {"Operacion", Operacion({})},
+                        {"Fincas", TJson::array()},
+                        {"Empleado", ""}};
+    return json.dump();
+}
 
 std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis,
                       bool conOrigen) {

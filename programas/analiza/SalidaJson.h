@@ -12,4 +12,8 @@ namespace analizador {
 [[nodiscard]] std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis,
                                     bool conOrigen);
 
+// A line with the same keys and nothing found, a concept and a party without facts in their lists: what keys
+// there are and of which shape.
+[[nodiscard]] std::string LineaJsonModelo();
+
 }  // namespace analizador

@@ -1,14 +1,14 @@
 // analiza: reads deeds from word processor documents and prints what was found in them.
 
-#include <CLI/CLI.hpp>
-#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "programas/analiza/AnalisisFichero.h"
 #include "programas/analiza/Entorno.h"
+#include "programas/analiza/Orden.h"
 #include "programas/analiza/SalidaJson.h"
 #include "programas/analiza/SalidaTexto.h"
 
@@ -16,8 +16,6 @@ namespace {
 
 using namespace analizador;
 namespace fs = std::filesystem;
-
-enum TCodigoSalida { TODO_BIEN = 0, ALGUNO_FALLO = 1, MAL_USO = 2 };
 
 struct TOpciones {
     std::vector<std::string> Ficheros;
@@ -31,12 +29,7 @@ struct TOpciones {
 };
 
 void Declara(CLI::App& aplicacion, TOpciones& opciones) {
-    aplicacion.get_formatter()->label("Usage", "Uso");
-    aplicacion.get_formatter()->label("OPTIONS", "opciones");
-    aplicacion.get_formatter()->label("Positionals", "Ficheros");
-    aplicacion.get_formatter()->column_width(24);
-    aplicacion.option_defaults()->group("Opciones")->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-    aplicacion.set_help_flag("-h,--ayuda,--help", "Muestra esta ayuda y termina");
+    PreparaOrden(aplicacion);
     aplicacion.set_version_flag("--version", "analiza " ANALIZADOR_VERSION, "Muestra la versión y termina");
     aplicacion
         .add_option("FICHERO", opciones.Ficheros, "Escrituras que se analizan (.docx, .docm, .dotx, .dotm)")
@@ -58,37 +51,11 @@ void Declara(CLI::App& aplicacion, TOpciones& opciones) {
         ->option_text("FICHERO");
     aplicacion.add_flag("--forzar", opciones.Forzar,
                         "Guarda aunque otro programa lo tenga abierto o esté firmado");
-}
-
-// The parser's messages begin with the option that they are about.
-std::string PrimeraPalabra(const std::string& mensaje) {
-    return mensaje.substr(0, mensaje.find_first_of(": "));
-}
-
-// What is wrong with the call, in the user's language.
-std::string CausaDeMalUso(const CLI::App& aplicacion, const CLI::ParseError& error) {
-    if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
-        return "falta el fichero que se quiere analizar";
-    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr)
-        return "a " + PrimeraPalabra(error.what()) + " le falta su valor";
-    if (const auto sobran = aplicacion.remaining(); !sobran.empty())
-        return "no se conoce la opción " + sobran.front();
-    return "una opción tiene un valor que no se entiende";
-}
-
-// What was printed before comes first where both go to one place.
-void Avisa(const std::string& texto) {
-    std::fflush(stdout);
-    std::fprintf(stderr, "analiza: %s\n", texto.c_str());
-}
-
-int MalUso(const std::string& causa) {
-    Avisa(causa + " (con --ayuda se ven las opciones)");
-    return MAL_USO;
-}
-
-void Escribe(const std::string& texto) {
-    std::fwrite(texto.data(), 1, texto.size(), stdout);
+    aplicacion.footer(
+        "Para quien cuida los vocabularios (cada una tiene su --ayuda):\n"
+        "  analiza vocabulario   Revisa los vocabularios, o explica qué encuentran en un párrafo\n"
+        "  analiza medida        Mide los aciertos con escrituras cuyos hechos se conocen\n"
+        "Una escritura que se llame así se analiza con su carpeta: ./vocabulario");
 }
 
 // False when the file could not be analysed.
@@ -112,35 +79,26 @@ int Ejecuta(const TOpciones& opciones) {
     if (opciones.Origen && !opciones.Json) return MalUso("--origen solo va con --json");
     if (opciones.Salida && opciones.Ficheros.size() > 1)
         return MalUso("con --salida se analiza un solo fichero");
-    try {
-        const TEntorno entorno(opciones.Config, opciones.Tablas);
-        int codigo = TODO_BIEN;
-        for (const auto& fichero : opciones.Ficheros)
-            if (!Procesa(fichero, opciones)) codigo = ALGUNO_FALLO;
-        return codigo;
-    } catch (const ErrorConfiguracion& error) {
-        Avisa(error.what());
-        return MAL_USO;
-    }
+    const TEntorno entorno(opciones.Config, opciones.Tablas);
+    int codigo = TODO_BIEN;
+    for (const auto& fichero : opciones.Ficheros)
+        if (!Procesa(fichero, opciones)) codigo = ALGUNO_FALLO;
+    return codigo;
+}
+
+int OrdenAnaliza(int argc, char** argv) {
+    CLI::App aplicacion("Lee escrituras notariales y extrae los datos que la notaría registra.", "analiza");
+    TOpciones opciones;
+    Declara(aplicacion, opciones);
+    return EjecutaOrden(aplicacion, argc, argv, "falta el fichero que se quiere analizar",
+                        [&] { return Ejecuta(opciones); });
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    CLI::App aplicacion("Lee escrituras notariales y extrae los datos que la notaría registra.", "analiza");
-    TOpciones opciones;
-    Declara(aplicacion, opciones);
-    try {
-        aplicacion.parse(argc, argv);
-    } catch (const CLI::Success& pedido) {
-        return aplicacion.exit(pedido);
-    } catch (const CLI::ParseError& error) {
-        return MalUso(CausaDeMalUso(aplicacion, error));
-    }
-    const int codigo = Ejecuta(opciones);
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
-        Avisa("no se puede escribir la salida");
-        return ALGUNO_FALLO;
-    }
-    return codigo;
+    const std::string_view orden = argc > 1 ? argv[1] : "";
+    if (orden == "vocabulario") return OrdenVocabulario(argc - 1, argv + 1);
+    if (orden == "medida") return OrdenMedida(argc - 1, argv + 1);
+    return OrdenAnaliza(argc, argv);
 }

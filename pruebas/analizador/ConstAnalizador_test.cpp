@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "plataforma/Ansi.h"
 #include "plataforma/Rficheros.h"
+#include "pruebas/comun/Literales.h"
 
 namespace analizador {
 namespace {
@@ -60,12 +60,12 @@ TEST(ConstAnalizador, TiposDeVia) {
 
 TEST(ConstAnalizador, IntervencionesDesdeElCero) {
     const std::vector<std::pair<int, std::string_view>> filas = {{0, "0. En su nombre"},
-                                                                 {1, "1. En representación de"_ansi},
-                                                                 {2, "2. Por sí y en representación de"_ansi},
+                                                                 {1, "1. En representación de"_a},
+                                                                 {2, "2. Por sí y en representación de"_a},
                                                                  {3, "3. Mandatario verbal"},
-                                                                 {4, "4. Los dos en representación de"_ansi},
+                                                                 {4, "4. Los dos en representación de"_a},
                                                                  {5, "5. Representado"},
-                                                                 {6, "6. Por sí y mandatario verbal"_ansi},
+                                                                 {6, "6. Por sí y mandatario verbal"_a},
                                                                  {-1, ""},
                                                                  {7, ""},
                                                                  {99, ""}};

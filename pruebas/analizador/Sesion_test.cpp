@@ -8,6 +8,7 @@
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
 #include "pruebas/analizador/Escena.h"
+#include "pruebas/comun/Literales.h"
 
 namespace analizador {
 namespace {
@@ -45,7 +46,7 @@ TEST(Sesion, DiceEnQueEtapaVaYCierraLaVentanaAntesDelDialogo) {
         "marcador TRANSMISION",
         "dice Buscando prestatario, espere un momento",
         "dice Buscando otorgantes testamentarios, espere un momento",
-        std::string("dice Buscando detalles de préstamos, espere un momento"_ansi),
+        std::string("dice Buscando detalles de préstamos, espere un momento"_a),
         "dice Buscando fincas introducidas, espere un momento",
         "dice Eliminando otorgantes duplicados, espere un momento",
         "dice Generando informe, espere un momento",

@@ -4,8 +4,8 @@
 
 #include <fstream>
 
-#include "plataforma/Ansi.h"
 #include "plataforma/Rficheros.h"
+#include "pruebas/comun/Literales.h"
 
 namespace analizador {
 namespace {
@@ -42,7 +42,7 @@ TEST_F(ConfigIni, LosNotariosVanEnSuOrdenConSusAcentos) {
     const auto config =
         Lee("[NOTARIOS]\r\nNumPalabras=2\r\n1=ANA P\xC9REZ\r\n2=LUIS GIL\r\nPorDefecto=2\r\nNombre=OTRO\r\n");
     EXPECT_EQ(config.GetnCuantos(), 2);
-    EXPECT_EQ(config.GetNotarios(), (std::vector<std::string>{std::string("ANA PÉREZ"_ansi), "LUIS GIL"}));
+    EXPECT_EQ(config.GetNotarios(), (std::vector<std::string>{std::string("ANA PÉREZ"_a), "LUIS GIL"}));
     EXPECT_EQ(config.GetNotarioPorDefecto(), "2");
     EXPECT_EQ(config.GetNombre1(), "OTRO");
 }

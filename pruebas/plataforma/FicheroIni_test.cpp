@@ -77,12 +77,13 @@ TEST(FicheroIni, DiceEnQueLineaEstaCadaCosa) {
 }
 
 TEST(FicheroIni, LosBytesCualesquieraNoLaDerriban) {
+    constexpr std::string_view LETRAS = "[]=;\"\n\r1N\xEF\xBB\xBF ";
     std::uint32_t semilla = 12345;
     for (int vez = 0; vez < 300; ++vez) {
         std::string bytes = "[NIF]\nNumPalabras=";
         for (int i = 0; i < 200; ++i) {
             semilla = semilla * 1664525U + 1013904223U;
-            bytes += "[]=;\"\n\r1N\xEF\xBB\xBF "[semilla >> 28U];
+            bytes += LETRAS[(semilla >> 16U) % LETRAS.size()];
         }
         const TFicheroIni ini(bytes);
         EXPECT_LE(ini.Palabras("NIF").size(), bytes.size() * 64 + 64);
