@@ -44,7 +44,10 @@ TTablaOrdenadaDbf::TTablaOrdenadaDbf(const std::filesystem::path& ruta, std::str
 
 TTabla& TTablaOrdenadaDbf::Entera() const {
     tramo_.reset();
-    if (entera_ == nullptr) entera_ = abreEntera_();
+    if (entera_ == nullptr) {
+        entera_ = abreEntera_();
+        entera_->Filtra(filtro_);
+    }
     return *entera_;
 }
 
@@ -99,12 +102,18 @@ bool TTablaOrdenadaDbf::Rango(TClave desde, TClave hasta) {
     const std::uint64_t fin = PrimeroQueNo([](int orden) { return orden <= 0; }, primero, hasta);
     tramo_ = std::make_unique<TTablaDbase>(
         std::make_shared<const TTablaEnMemoria>(nombre_, Datos(primero, fin - primero)), indice_);
+    tramo_->Filtra(filtro_);
     return true;
 }
 
 void TTablaOrdenadaDbf::CancelaRango() {
     tramo_.reset();
     if (entera_ != nullptr) entera_->CancelaRango();
+}
+
+void TTablaOrdenadaDbf::Filtra(std::string_view condicion) {
+    Actual().Filtra(condicion);
+    filtro_ = condicion;
 }
 
 }  // namespace analizador

@@ -40,7 +40,7 @@ class TTablaOrdenadaDbf : public TTabla {
     bool Busca(TClave clave) override { return Actual().Busca(clave); }
     bool Rango(TClave desde, TClave hasta) override;
     void CancelaRango() override;
-    void Filtra(std::string_view condicion) override { Entera().Filtra(condicion); }
+    void Filtra(std::string_view condicion) override;
 
   private:
     // The range's rows, or the whole table when there is no range.
@@ -60,6 +60,7 @@ class TTablaOrdenadaDbf : public TTabla {
     std::string cabecera_;
     std::uint64_t registros_ = 0;
     std::uint64_t longitudRegistro_ = 0;
+    std::string filtro_;
     mutable std::unique_ptr<TTabla> entera_;
     mutable std::unique_ptr<TTabla> tramo_;
 };

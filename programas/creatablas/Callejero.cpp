@@ -40,7 +40,8 @@ std::vector<std::filesystem::path> BuscaFicheros(const std::filesystem::path& ca
     if (error) throw ErrorCallejero(Utf8(carpeta) + ": no se puede leer la carpeta del callejero");
     for (; !error && entrada != std::filesystem::directory_iterator(); entrada.increment(error)) {
         const std::string nombre = Utf8(entrada->path().filename());
-        if (entrada->is_regular_file(error) && EncajaPatron(diseno.Patron, nombre) &&
+        std::error_code deEsta;
+        if (entrada->is_regular_file(deEsta) && EncajaPatron(diseno.Patron, nombre) &&
             !EncajaPatron("*.zip", nombre))
             ficheros.push_back(entrada->path());
     }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -338,6 +339,25 @@ TEST_F(Callejero, SinLeerLaTablaSeHallaLoMismo) {
     }
 }
 
+TEST_F(Callejero, ElFiltroValeTambienSinLeerLaTabla) {
+    ASSERT_TRUE(Importa()) << errores_;
+    TProveedorDbase proveedor(Tablas());
+    const auto tabla = proveedor.Abre("NORVEX", "POSTAL.DBF", "NOMBREVIA");
+    const auto mayor = [&] {
+        return tabla->Rango({{"PROVINCIA", "28"}, {"VIA", "MAYOR"}}, {{"PROVINCIA", "28"}, {"VIA", "MAYOR"}});
+    };
+    ASSERT_TRUE(mayor());
+    EXPECT_EQ(tabla->CuentaFilas(), 3);
+    tabla->Filtra("IMPAR_INI=1");
+    EXPECT_EQ(tabla->CuentaFilas(), 2);
+    ASSERT_TRUE(mayor());
+    EXPECT_EQ(tabla->CuentaFilas(), 2) << "the filter stays";
+    tabla->CancelaRango();
+    EXPECT_EQ(tabla->CuentaFilas(), 5) << "of all rows";
+    tabla->Indexa("CODPOSTAL");
+    EXPECT_EQ(tabla->Texto("CODPOSTAL"), "28101");
+}
+
 TEST_F(Callejero, UnaTablaCambiadaNoSeCreeOrdenada) {
     ASSERT_TRUE(Importa()) << errores_;
     // The last row becomes another street: no longer in order.
@@ -446,17 +466,23 @@ TEST(NombresDeVia, SonLosQueElReconocedorDa) {
     }
 }
 
+struct TPatron {
+    std::string_view Patron, Nombre;
+    bool Encaja;
+};
+
 TEST(DisenoCallejero, ElPatronDeUnNombre) {
-    for (const auto& [patron, nombre, encaja] : {std::tuple("TRAM*", "TRAM.D251231.G260303", true),
-                                                 {"TRAM*", "tramos.txt", true},
-                                                 {"TRAM*", "XTRAM", false},
-                                                 {"UP*", "UP", true},
-                                                 {"*.zip", "TRAM.ZIP", true},
-                                                 {"P??VIAS*", "P28VIAS.F091231", true},
-                                                 {"P??VIAS*", "P2VIAS", false},
-                                                 {"", "", true},
-                                                 {"", "X", false}})
-        EXPECT_EQ(EncajaPatron(patron, nombre), encaja) << patron << ' ' << nombre;
+    static constexpr TPatron CASOS[] = {{"TRAM*", "TRAM.D251231.G260303", true},
+                                        {"TRAM*", "tramos.txt", true},
+                                        {"TRAM*", "XTRAM", false},
+                                        {"UP*", "UP", true},
+                                        {"P??VIAS*", "P28VIAS.F091231", true},
+                                        {"P??VIAS*", "P2VIAS", false},
+                                        {"*.zip", "TRAM.ZIP", true},
+                                        {"", "", true},
+                                        {"", "X", false}};
+    for (const TPatron& caso : CASOS)
+        EXPECT_EQ(EncajaPatron(caso.Patron, caso.Nombre), caso.Encaja) << caso.Patron << ' ' << caso.Nombre;
 }
 
 }  // namespace
