@@ -33,8 +33,8 @@ std::string EnContexto(std::string_view parrafo, Tramo donde) {
 }
 
 std::string Modo(const TCasada& casada) {
-    const std::string modo(TextoDeModo(casada.Seccion->Modo));
-    return casada.Gana.empty() ? modo : "no cuenta: gana " + std::string(casada.Gana);
+    if (!casada.Gana.empty()) return "no cuenta: gana " + std::string(casada.Gana);
+    return std::string(casada.Seccion->Para) + ": " + std::string(TextoDeModo(casada.Seccion->Modo));
 }
 
 std::vector<std::string> Fila(std::string_view parrafo, const TCasada& casada,
@@ -49,7 +49,7 @@ std::vector<std::string> Fila(std::string_view parrafo, const TCasada& casada,
 
 std::string TablaDeSecciones(std::string_view parrafo, const TVocabulario& vocabulario) {
     std::vector<std::vector<std::string>> filas = {
-        {"  sección", "entrada", "línea", "caracteres", "en el párrafo", "cómo se busca"}};
+        {"  sección", "entrada", "línea", "caracteres", "en el párrafo", "qué es y cuál gana"}};
     for (const auto& casada : SeccionesQueCasan(parrafo)) filas.push_back(Fila(parrafo, casada, vocabulario));
     if (filas.size() == 1) return "  ninguna\n";
     return EnColumnas(filas, "iidd");

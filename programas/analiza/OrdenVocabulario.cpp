@@ -33,8 +33,8 @@ void Declara(CLI::App& orden, TOpcionesVocabulario& opciones) {
         ->option_text("CARPETA");
     orden
         .add_option("--explica", opciones.Explica,
-                    "Explica qué se encuentra en un párrafo; con - se lee de la entrada")
-        ->option_text("PÁRRAFO");
+                    "Explica qué se encuentra en ese párrafo; con - se lee de la entrada")
+        ->option_text("TEXTO");
     orden.add_flag("--catalan", opciones.Catalan, "Con --explica: el párrafo es de una escritura catalana");
     orden.add_option("--tablas", opciones.Tablas, "Con --explica: carpeta de las tablas de referencia")
         ->option_text("CARPETA");

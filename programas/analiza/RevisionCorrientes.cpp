@@ -12,7 +12,8 @@ std::vector<TReparo> RevisaCorrientes(const TVocabulario& vocabulario,
         if (!seccion.DentroDePalabra) continue;
         for (const auto& entrada : Entradas(vocabulario.Ini, seccion.Nombre)) {
             const auto palabra = std::ranges::find_if(corrientes, [&](const std::string& corriente) {
-                return corriente.find(entrada.Texto) != std::string::npos;
+                return corriente.size() > entrada.Texto.size() &&
+                       corriente.find(entrada.Texto) != std::string::npos;
             });
             if (palabra != corrientes.end())
                 reparos.push_back({false, entrada.Linea,

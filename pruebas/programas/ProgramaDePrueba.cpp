@@ -44,13 +44,15 @@ fs::path TCarpetaTemporal::Copia(std::string_view ejemplo, std::string_view nomb
     return copia;
 }
 
-TEjecucion Analiza(const std::vector<std::string>& argumentos, const fs::path& salida) {
+TEjecucion Analiza(const std::vector<std::string>& argumentos, const fs::path& salida,
+                   const fs::path& entrada) {
     const TCarpetaTemporal carpeta;
     const fs::path fichero = salida.empty() ? carpeta.Ruta() / "salida" : salida;
     const fs::path errores = carpeta.Ruta() / "errores";
     std::string orden = Entrecomilla(PROGRAMA_ANALIZA);
     for (const auto& argumento : argumentos) orden += " " + Entrecomilla(argumento);
-    orden += " >" + Entrecomilla(fichero.string()) + " 2>" + Entrecomilla(errores.string()) + " </dev/null";
+    orden += " >" + Entrecomilla(fichero.string()) + " 2>" + Entrecomilla(errores.string()) + " <" +
+             Entrecomilla(entrada.string());
     const int estado = std::system(orden.c_str());
     return {WIFEXITED(estado) ? WEXITSTATUS(estado) : -1, salida.empty() ? Bytes(fichero) : "",
             Bytes(errores)};

@@ -35,9 +35,10 @@ struct TEjecucion {
 };
 
 // Runs it with its output in files, the exact bytes of which are returned. `salida`: a file to write its
-// standard output to instead.
+// standard output to instead. `entrada`: the file that is its standard input.
 [[nodiscard]] TEjecucion Analiza(const std::vector<std::string>& argumentos,
-                                 const std::filesystem::path& salida = {});
+                                 const std::filesystem::path& salida = {},
+                                 const std::filesystem::path& entrada = "/dev/null");
 
 // The document of an example in the sources.
 [[nodiscard]] std::filesystem::path Ejemplo(std::string_view nombre);
