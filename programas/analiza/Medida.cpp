@@ -104,8 +104,9 @@ std::string InformeMedida(const TMedida& medida) {
         {"dato", "aciertos", "sobran", "faltan", "precisión", "cobertura", "F1"}};
     for (const TCuenta& cuenta : medida.Cuentas()) filas.push_back(Fila(cuenta));
     filas.push_back(Fila(medida.Total()));
+    const int n = medida.Escrituras();
     std::string informe =
-        Int_Cad(medida.Escrituras()) + " escrituras\n\n" + EnColumnas(filas, "iddddddd") + "\n";
+        Int_Cad(n) + (n == 1 ? " escritura\n\n" : " escrituras\n\n") + EnColumnas(filas, "iddddddd") + "\n";
     if (medida.Fallos().empty()) return informe + "Ningún fallo.\n";
     informe += "Fallos:\n";
     for (const auto& fallo : medida.Fallos()) informe += "  " + fallo + "\n";

@@ -63,7 +63,7 @@ TEST(OrdenMedida, LoQueNoSePuedeLeerSeDiceYSeSigue) {
     (void)carpeta.Copia("testamento", "sin_hechos.docx");
     const auto medida = Analiza({"medida", carpeta.Ruta()});
     EXPECT_EQ(medida.Codigo, 1);
-    EXPECT_EQ(Lineas(medida.Salida).front(), "1 escrituras");
+    EXPECT_EQ(Lineas(medida.Salida).front(), "1 escritura");
     EXPECT_EQ(Lineas(medida.Errores).size(), 3U) << medida.Errores;
     for (const char* causa : {"sola.json: no tiene al lado su escritura", "rota.docx",
                               "mala.json: no se conoce la clave \"Idioma\""})
