@@ -22,7 +22,8 @@ void TFListaConceptosPreseleccionados::CargaListaPosiblesConceptos(const ListaTe
 void TFListaConceptosPreseleccionados::CargaListaPosiblesOtorgantes(const ListaTextos<TROtorgante>& lista) {
     for (const auto& [texto, otorgante] : lista)
         if (otorgante)
-            LBPosiblesOtorgantes.Anade(otorgante->MuestraOtorgante(), std::make_unique<TROtorgante>(*otorgante));
+            LBPosiblesOtorgantes.Anade(otorgante->MuestraOtorgante(),
+                                       std::make_unique<TROtorgante>(*otorgante));
 }
 
 void TFListaConceptosPreseleccionados::SeleccionaTodosLosOtorgantesValidos() {

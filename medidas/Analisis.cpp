@@ -1,5 +1,5 @@
-// How long the analysis of a deed takes: the whole program from its start, and the analysis alone in a process that is
-// warm, on the deed as it is and with its recitals repeated to ten times the length.
+// How long the analysis of a deed takes: the whole program from its start, and the analysis alone in a
+// process that is warm, on the deed as it is and with its recitals repeated to ten times the length.
 
 #include <benchmark/benchmark.h>
 
@@ -18,7 +18,8 @@ namespace {
 using namespace analizador;
 
 const TEntorno& Entorno() {
-    static const TEntorno entorno(std::filesystem::path(CARPETA_BIN) / "CONFIG", std::filesystem::path(CARPETA_BIN) / "TABLAS");
+    static const TEntorno entorno(std::filesystem::path(CARPETA_BIN) / "CONFIG",
+                                  std::filesystem::path(CARPETA_BIN) / "TABLAS");
     return entorno;
 }
 

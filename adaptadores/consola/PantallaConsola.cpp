@@ -31,7 +31,8 @@ class TVentanaConsola : public TVentanaMensaje {
 
 TPantallaConsola::TPantallaConsola() : FEsTerminal(isatty(STDERR_FILENO) == 1) {}
 
-std::unique_ptr<TVentanaMensaje> TPantallaConsola::Abre(std::string_view texto, TComponente* /*propietario*/) {
+std::unique_ptr<TVentanaMensaje> TPantallaConsola::Abre(std::string_view texto,
+                                                        TComponente* /*propietario*/) {
     return FEsTerminal ? std::make_unique<TVentanaConsola>(texto) : nullptr;
 }
 

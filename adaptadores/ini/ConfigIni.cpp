@@ -15,8 +15,8 @@ namespace {
 }
 
 // A whole number of the file, `defecto` when the key is missing or empty.
-int Entero(const TFicheroIni& ini, const std::filesystem::path& fichero, const char* seccion, const char* clave,
-           int defecto) {
+int Entero(const TFicheroIni& ini, const std::filesystem::path& fichero, const char* seccion,
+           const char* clave, int defecto) {
     const std::string texto = ini.LeeTexto(seccion, clave, "");
     if (texto.empty()) return defecto;
     const auto numero = EnteroDeCadena(texto);
@@ -32,7 +32,8 @@ TConfigIni::TConfigIni(const std::filesystem::path& fichero, const std::filesyst
 
     FNotarios = ini->Palabras("NOTARIOS");
     const int cuantos = Entero(*ini, fichero, "NOTARIOS", "NumPalabras", 0);
-    const bool falta = std::any_of(FNotarios.begin(), FNotarios.end(), [](const auto& n) { return n.empty(); });
+    const bool falta =
+        std::any_of(FNotarios.begin(), FNotarios.end(), [](const auto& n) { return n.empty(); });
     if (falta || cuantos != static_cast<int>(FNotarios.size()))
         Rechaza(fichero, "[NOTARIOS] NumPalabras no coincide con los notarios escritos");
     FNombre1 = ini->LeeTexto("NOTARIOS", "Nombre", "");

@@ -19,8 +19,8 @@ class ErrorConfiguracion : public std::runtime_error {
 
 // Reads, once:
 //
-//   [TABLAS]    Carpeta=      folder of the tables; one that is not absolute counts from the application's folder
-//   [NOTARIOS]  NumPalabras=  how many notaries the office has; 0 when it has no list
+//   [TABLAS]    Carpeta=      folder of the tables; one that is not absolute counts from the application's
+//   folder [NOTARIOS]  NumPalabras=  how many notaries the office has; 0 when it has no list
 //               1=, 2=, ...   their names
 //               PorDefecto=   number of the one proposed when the deed's is none of them
 //               Nombre=       the notary of an office without a list

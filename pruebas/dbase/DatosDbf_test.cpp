@@ -1,8 +1,9 @@
+#include "adaptadores/dbase/DatosDbf.h"
+
 #include <gtest/gtest.h>
 
 #include <bit>
 
-#include "adaptadores/dbase/DatosDbf.h"
 #include "adaptadores/dbase/PaginasCodigos.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"

@@ -1,3 +1,5 @@
+#include "rutinas/Tratamiento.h"
+
 #include <gtest/gtest.h>
 
 #include "plataforma/Rut.h"
@@ -5,7 +7,6 @@
 #include "pruebas/comun/Tramos.h"
 #include "pruebas/comun/VocabularioDePrueba.h"
 #include "rutinas/RutAnalizador.h"
-#include "rutinas/Tratamiento.h"
 
 namespace analizador {
 

@@ -1,8 +1,9 @@
+#include "rutinas/PalabrasEnteras.h"
+
 #include <gtest/gtest.h>
 
 #include "plataforma/Ansi.h"
 #include "pruebas/comun/Literales.h"
-#include "rutinas/PalabrasEnteras.h"
 
 namespace analizador {
 

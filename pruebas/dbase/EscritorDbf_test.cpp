@@ -1,3 +1,5 @@
+#include "adaptadores/dbase/EscritorDbf.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -5,7 +7,6 @@
 #include <sstream>
 
 #include "adaptadores/dbase/DatosDbf.h"
-#include "adaptadores/dbase/EscritorDbf.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
 #include "pruebas/dbase/ConstructorDbf.h"
