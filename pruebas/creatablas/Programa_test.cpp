@@ -104,6 +104,17 @@ TEST_F(Programa, UnDestinoImposibleEsUnFallo) {
     EXPECT_NE(resultado.Errores.find("datos/PILA.csv: no se puede crear la carpeta"), std::string::npos);
 }
 
+TEST_F(Programa, UnCallejeroQueFaltaEsUnFallo) {
+    for (const std::string carpeta : {"nada", "datos"}) {
+        const TResultado resultado = Ejecuta("--callejero " + carpeta);
+        EXPECT_EQ(resultado.Codigo, 1);
+        EXPECT_EQ(Lineas(resultado.Errores), 1) << resultado.Errores;
+        EXPECT_NE(resultado.Errores.find("creatablas: " + carpeta + ": "), std::string::npos)
+            << resultado.Errores;
+    }
+    EXPECT_FALSE(std::filesystem::exists(Ruta("TABLAS") / "POSTAL.DBF"));
+}
+
 TEST_F(Programa, MalUsadoSaleConDos) {
     for (const std::string argumentos : {"--nada", "sobra", "--origen", "--origen a --origen"}) {
         const TResultado resultado = Ejecuta(argumentos);
