@@ -15,7 +15,7 @@
 namespace analizador {
 
 // Remembers what the user was told.
-struct TMensajesDePrueba : TMensajes {
+struct TMensajesOidos : TMensajes {
     std::vector<std::pair<std::string, std::string>> Mostrados;
 
     void Muestra(std::string_view titulo, std::string_view texto) override {
@@ -44,7 +44,7 @@ class TEscenaDatos {
     TEscenaDatos();
 
     TTablasDePrueba Tablas{"OFICINA"};
-    TMensajesDePrueba Mensajes;
+    TMensajesOidos Mensajes;
 
   private:
     TConfigDePrueba config_;
