@@ -93,15 +93,30 @@ std::shared_ptr<const TTablaEnMemoria> TProveedorDbase::Tabla(const std::filesys
     return entrada->Tabla;
 }
 
+// A note that counted goes on counting as long as the table's mark says that nobody touched it.
+bool TProveedorDbase::EstaEnOrden(const std::filesystem::path& ruta, const TMarcaFichero& marca,
+                                  std::string_view indice) {
+    const std::shared_ptr<TEntrada> entrada = Entrada(ruta);
+    const std::lock_guard guarda(entrada->Cerrojo);
+    if (entrada->Orden.empty() || marca.Reciente || marca != entrada->MarcaOrden) {
+        entrada->Orden = OrdenAnotado(ruta, marca);
+        entrada->MarcaOrden = marca;
+    }
+    return entrada->Orden == indice;
+}
+
 std::unique_ptr<TTabla> TProveedorDbase::Abre(std::string_view alias, std::string_view fichero,
                                               std::string_view indice) {
     const std::filesystem::path ruta = BuscaFichero(Carpeta(alias), ConExtension(fichero));
     const auto abreEntera = [this, ruta, indice = std::string(indice)]() -> std::unique_ptr<TTabla> {
         return std::make_unique<TTablaDbase>(Tabla(ruta), indice);
     };
-    if (indice.empty() || OrdenAnotado(ruta, MarcaDeFichero(ruta)) != indice) return abreEntera();
-    return std::make_unique<TTablaOrdenadaDbf>(ruta, EnMayusculas(Ansi(ruta.stem())), std::string(indice),
-                                               Ansi(ruta), abreEntera);
+    const TMarcaFichero marca = MarcaDeFichero(ruta);
+    if (indice.empty() || !EstaEnOrden(ruta, marca, indice)) return abreEntera();
+    auto ordenada = std::make_unique<TTablaOrdenadaDbf>(ruta, EnMayusculas(Ansi(ruta.stem())),
+                                                        std::string(indice), Ansi(ruta), abreEntera);
+    if (!MismaMarca(marca, MarcaDeFichero(ruta))) return abreEntera();  // another one by now
+    return ordenada;
 }
 
 }  // namespace analizador
