@@ -128,7 +128,7 @@ std::string TextoPizarra(const TClassAnalizadorAbierto& sesion, const ListaTexto
 }
 
 void TClassAnalizadorAbierto::RellenaPizarra() {
-    Pizarra = TextoPizarra(*this, Cabecera.Conceptos);
+    Pizarra += TextoPizarra(*this, Cabecera.Conceptos);
 }
 
 }  // namespace analizador
