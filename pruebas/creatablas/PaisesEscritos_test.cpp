@@ -140,6 +140,7 @@ TEST_F(PaisesEscritos, LoQueElOrdenAlfabeticoNoDistingue) {
         {"el Congo", "DESCONOCIDO", 999},
         {"Corea", "DESCONOCIDO", 999},
         {"Samoa", "DESCONOCIDO", 999},
+        {"Guinea", "DESCONOCIDO", 999},
         {"París (Francia), no en España"_ansi, "ESPAÑA"_ansi, 724},
     };
     for (const TNombre& limite : LIMITES) {
