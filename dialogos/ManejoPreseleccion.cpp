@@ -32,10 +32,19 @@ bool Avisando(TAccion accion) {
     }
 }
 
+std::string_view Causa(const std::error_code& error) {
+    if (error == std::errc::no_space_on_device || error == std::errc::file_too_large)
+        return "no hay sitio en el disco";
+    if (error == std::errc::permission_denied || error == std::errc::read_only_file_system)
+        return "no hay permiso";
+    if (error == std::errc::no_such_file_or_directory) return "no existe la carpeta";
+    return "el sistema no lo permite";
+}
+
 void AvisaFichero(std::string_view que, const std::filesystem::filesystem_error& error) {
     std::string texto(que);
-    texto.append(": ").append(AnsiDeUtf8(error.path1().string()));
-    texto.append(": ").append(AnsiDeUtf8(error.code().message()));
+    texto.append(": no se puede escribir ").append(AnsiDeUtf8(error.path1().string()));
+    texto.append(": ").append(Causa(error.code()));
     Mensajes(TITULO_ATENCION, texto);
 }
 

@@ -3,10 +3,13 @@
 #include <cstddef>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -22,13 +25,15 @@ using TTextos = std::vector<std::string>;
 using TPosiciones = std::vector<std::size_t>;
 
 // Message boxes answered beforehand, which keep what they said.
-struct TMensajesDePrueba : TMensajes {
+struct TMensajesContestados : TMensajes {
     std::vector<std::pair<std::string, std::string>> Mostrados;
     std::vector<std::pair<std::string, std::string>> Preguntas;
+    std::function<void()> AlMostrar;
     std::vector<bool> Respuestas;  // one for each question, in order; then no
 
     void Muestra(std::string_view titulo, std::string_view texto) override {
         Mostrados.emplace_back(titulo, texto);
+        if (AlMostrar) AlMostrar();
     }
     [[nodiscard]] bool Pregunta(std::string_view titulo, std::string_view texto) override {
         const std::size_t cual = Preguntas.size();
@@ -113,7 +118,8 @@ inline TROtorgante PersonaEnXml(std::string nombre, std::string documento) {
     return otorgante;
 }
 
-// What the dialog needs around it: a table of four types, message boxes and viewers.
+// What the dialog needs around it: a table of four types, those of the party details,
+// message boxes and viewers.
 class TEscenaPreseleccion {
   public:
     TEscenaPreseleccion() {
@@ -122,6 +128,9 @@ class TEscenaPreseleccion {
                                   {"Hipoteca", "2", "05001", "T", "C", "PRESTAMO HIPOTECARIO"},
                                   {"Poder", "30", "03001", "F", "A", "PODER"},
                                   {"Personal", "4", "05002", "T", "B", "PRESTAMO"}}});
+        Tablas.Pon("PROVIN.DBF", {{"PROVINCIA", "CODIGO", "GRUPO"}, {{"MADRID", "28", "1"}}});
+        Tablas.Pon("TIPO_VIA.DBF", {{"CODIGO", "NOMBRE"}, {{"CL", "CALLE"}}});
+        Tablas.Pon("TIPO_INT.DBF", {{"CODIGO", "DESCRIPCIO"}, {{"99", "NINGUNA"}}});
     }
 
     // A dialog with these concepts (all of number 7) and parties found.
@@ -140,16 +149,19 @@ class TEscenaPreseleccion {
         return dialogo;
     }
 
+    // From now on there are no viewers.
+    void QuitaVisores() { FInstalaVisores.reset(); }
+
     TTablasDePrueba Tablas;
     TConfigDePrueba Configuracion;
-    TMensajesDePrueba Mensajes;
+    TMensajesContestados Mensajes;
     TVisoresDePrueba Visores;
 
   private:
     InstalaTablas FInstalaTablas{Tablas};
     InstalaConfig FInstalaConfig{Configuracion};
     InstalaMensajes FInstalaMensajes{Mensajes};
-    InstalaVisores FInstalaVisores{Visores};
+    std::optional<InstalaVisores> FInstalaVisores{std::in_place, Visores};
 };
 
 }  // namespace analizador
