@@ -55,7 +55,9 @@ TEST(Conceptos, LosTiposDeLaRejillaSeAnadenConTodosSusValores) {
     EXPECT_EQ(dialogo->dbgTipos.Filas().size(), 4U);
 
     dialogo->dbgTipos.PonActual(2);  // none selected: the current one
+    dialogo->LBConceptos.SeleccionaTodo();
     dialogo->Pulsa(TControl::BMasBD);
+    EXPECT_EQ(dialogo->LBConceptos.Seleccionadas(), TPosiciones{});
     EXPECT_EQ(Textos(dialogo->LBConceptos), (TTextos{"Personal", "Venta de finca", "Hipoteca"}));
     EXPECT_EQ(dialogo->dbgTipos.Actual(), 2U);
     dialogo->Pulsa(TControl::BMasBD);

@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "dialogos/FicherosParaVer.h"
 #include "dialogos/ListaConceptosPreseleccionados.h"
 #include "plataforma/Mensaje.h"
 #include "plataforma/Visor.h"
@@ -46,6 +47,20 @@ inline std::string BytesDe(const std::filesystem::path& fichero) {
     std::ifstream entrada(fichero, std::ios::binary);
     return {std::istreambuf_iterator<char>(entrada), {}};
 }
+
+// How many files of a prefix stand where temporary files go.
+inline std::size_t Cuantos(std::string_view prefijo) {
+    const std::filesystem::path uno = EscribeFicheroTemporal("MIRA", "txt", "");
+    std::size_t cuenta = 0;
+    for (const auto& entrada : std::filesystem::directory_iterator(uno.parent_path()))
+        if (entrada.path().filename().string().starts_with(prefijo)) ++cuenta;
+    std::filesystem::remove(uno);
+    return cuenta;
+}
+
+// An XML as the session hands it over, and as it is shown.
+inline const std::string XML = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<a>\xF1</a>";
+inline const std::string XML_UTF8 = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<a>ñ</a>";
 
 // Viewers that keep what they were shown; the report files are removed with them.
 struct TVisoresDePrueba : TVisores {

@@ -187,6 +187,7 @@ TEST(Busca, LoEscritoOrdenaYBusca) {
         {"v", tipo, "VENTA"},
         {"Pó"_a, tipo, "PODER"},
         {"PRESTAMO ", tipo, "PRESTAMO HIPOTECARIO"},
+        {"", tipo, "PODER"},  // every type begins with it
         {"HIPO", tipo, "PRESTAMO"},
         {"10a", tipo, "PRESTAMO"},
         {"99999999999", tipo, "PRESTAMO"},  // no whole number of 32 bits
