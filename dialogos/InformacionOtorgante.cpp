@@ -141,7 +141,7 @@ void TFInformacionOtorgante::Pulsa(TControlDatos boton) {
 
 // A wrong date can have been left by way of "&Cancelar", which checks nothing.
 void TFInformacionOtorgante::Acepta() {
-    if (!CompruebaFecha()) {
+    if (FechaTocada() && !CompruebaFecha()) {
         PonFoco(MEFecha_Naci);
         return;
     }
@@ -149,8 +149,9 @@ void TFInformacionOtorgante::Acepta() {
     resultado_ = true;
 }
 
+// A dialog that OK has closed stays so: its record has been changed.
 void TFInformacionOtorgante::Cierra() {
-    resultado_ = false;
+    if (!resultado_) resultado_ = false;
 }
 
 void TFInformacionOtorgante::ListaINE() {
