@@ -95,9 +95,9 @@ TCodificacion Declarada(std::string_view xml) {
 
 // ---- Characters of the encodings of one byte
 
-char16_t PuntoAnsi(unsigned char byte) {
-    const char16_t punto = byte >= 0x80 && byte < 0xA0 ? interno::PUNTOS_80_9F[byte - 0x80U] : byte;
-    return punto != 0 ? punto : byte;
+// One unit for each byte.
+std::u16string UnidadesAnsi(std::string_view texto) {
+    return Utf16DeUtf8(Utf8DeAnsi(texto));
 }
 
 char16_t PuntoLatin9(unsigned char byte) {
@@ -123,23 +123,14 @@ std::optional<unsigned char> ByteEn(TCodificacion codificacion, char16_t punto) 
 }
 
 char16_t PuntoDe(TCodificacion codificacion, unsigned char byte) {
-    switch (codificacion) {
-        case TCodificacion::Windows1252:
-            return PuntoAnsi(byte);
-        case TCodificacion::Latin9:
-            return PuntoLatin9(byte);
-        case TCodificacion::Ascii:
-            return byte < 0x80 ? byte : NO_ES_TEXTO;
-        default:
-            return byte;
-    }
+    if (codificacion == TCodificacion::Latin9) return PuntoLatin9(byte);
+    return codificacion == TCodificacion::Ascii && byte >= 0x80 ? NO_ES_TEXTO : byte;
 }
 
 std::string BytesUnoAUno(std::string_view xml, TCodificacion codificacion) {
     std::string bytes;
     bytes.reserve(xml.size());
-    for (const char c : xml) {
-        const char16_t punto = PuntoAnsi(static_cast<unsigned char>(c));
+    for (const char16_t punto : UnidadesAnsi(xml)) {
         if (const auto byte = ByteEn(codificacion, punto))
             bytes += static_cast<char>(*byte);
         else
@@ -153,8 +144,7 @@ std::string BytesUnoAUno(std::string_view xml, TCodificacion codificacion) {
 std::string BytesUtf16(std::string_view xml, bool altoPrimero) {
     std::string bytes(altoPrimero ? MARCA_UTF16_BE : MARCA_UTF16_LE);
     bytes.reserve(bytes.size() + 2 * xml.size());
-    for (const char c : xml) {
-        const char16_t punto = PuntoAnsi(static_cast<unsigned char>(c));
+    for (const char16_t punto : UnidadesAnsi(xml)) {
         const auto alto = static_cast<char>(punto >> 8);
         const auto bajo = static_cast<char>(punto & 0xFF);
         bytes += altoPrimero ? alto : bajo;
@@ -176,6 +166,7 @@ std::u16string UnidadesUtf16(std::string_view bytes, bool altoPrimero) {
 }
 
 std::u16string UnidadesUnoAUno(std::string_view bytes, TCodificacion codificacion) {
+    if (codificacion == TCodificacion::Windows1252) return UnidadesAnsi(bytes);
     std::u16string unidades;
     unidades.reserve(bytes.size());
     for (const char c : bytes) unidades += PuntoDe(codificacion, static_cast<unsigned char>(c));

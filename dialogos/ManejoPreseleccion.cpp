@@ -1,18 +1,13 @@
-// What the user does in the preselection dialog: keys, buttons, drags, the search box and the views.
+// What the user does in the preselection dialog: keys, buttons, drags, the search box, details.
 
-#include <system_error>
 #include <utility>
 
-#include "dialogos/CodificacionXml.h"
-#include "dialogos/FicherosParaVer.h"
 #include "dialogos/InformacionOtorgante.h"
 #include "dialogos/ListaConceptosPreseleccionados.h"
 #include "plataforma/Ansi.h"
-#include "plataforma/Confnvx.h"
 #include "plataforma/Mensaje.h"
 #include "plataforma/Rnumcad.h"
 #include "plataforma/Ruttb.h"
-#include "plataforma/Visor.h"
 
 namespace analizador {
 
@@ -32,43 +27,12 @@ bool Avisando(TAccion accion) {
     }
 }
 
-void AvisaFichero(std::string_view que, const std::filesystem::filesystem_error& error) {
-    std::string texto(que);
-    texto.append(": ").append(AnsiDeUtf8(error.path1().string()));
-    texto.append(": ").append(AnsiDeUtf8(error.code().message()));
-    Mensajes(TITULO_ATENCION, texto);
-}
-
-// The file of a report that is shown stays: the viewer may read it at any time.
-bool AbreInforme(std::string_view informe) {
-    auto* const visores = InstalaVisores::Actual();
-    if (visores == nullptr) return false;
-    const auto fichero = EscribeFicheroTemporal("PIZ", "TXT", BytesDeTexto(informe));
-    if (visores->AbreTexto(fichero)) return true;
-    std::error_code nada;
-    std::filesystem::remove(fichero, nada);
-    return false;
-}
-
 }  // namespace
-
-void TFListaConceptosPreseleccionados::FormActivate() {
-    if (!primeraActivacion_) return;
-    primeraActivacion_ = false;
-    pagina_ = TPaginaPreseleccion::XML;
-    xmlVisible_ = !xml_.empty() && !Config().GetbAnalWordSoloAnalizadorSinXML();
-    if (xmlVisible_) (void)EscribeXML();
-    pagina_ = TPaginaPreseleccion::Informacion;
-}
 
 void TFListaConceptosPreseleccionados::PonFoco(TControlPreseleccion control) {
     foco_ = control;
     if (control == TControl::LBOtorgantes || control == TControl::LBPosiblesOtorgantes)
         listaConFoco_ = control;
-}
-
-void TFListaConceptosPreseleccionados::PonPagina(TPaginaPreseleccion pagina) {
-    if (pagina == TPaginaPreseleccion::Informacion || xmlVisible_) pagina_ = pagina;
 }
 
 void TFListaConceptosPreseleccionados::Pulsa(TControlPreseleccion boton) {
@@ -214,7 +178,7 @@ void TFListaConceptosPreseleccionados::Suelta(TControlPreseleccion origen, TCont
     }
 }
 
-// ---- Views
+// ---- Details of a party
 
 void TFListaConceptosPreseleccionados::VerOtorgante(TControlPreseleccion lista) {
     auto& otorgantes = lista == TControl::LBPosiblesOtorgantes ? LBPosiblesOtorgantes : LBOtorgantes;
@@ -225,33 +189,6 @@ void TFListaConceptosPreseleccionados::VerOtorgante(TControlPreseleccion lista) 
         if (MuestraInformacionOtorgante(propietario_, otorgante))
             otorgantes.CambiaTexto(*actual, otorgante.MuestraOtorgante());
     });
-}
-
-bool TFListaConceptosPreseleccionados::EscribeXML() {
-    try {
-        if (ficheroXml_.empty()) ficheroXml_ = EscribeFicheroTemporal("NUM", "xml", BytesDeXml(xml_));
-        return true;
-    } catch (const std::filesystem::filesystem_error& error) {
-        AvisaFichero("No se pueden mostrar los datos actuales del documento", error);
-        return false;
-    }
-}
-
-// The file may be missing because it could not be written before.
-void TFListaConceptosPreseleccionados::MuestraXML() {
-    auto* const visores = InstalaVisores::Actual();
-    if (visores == nullptr || !EscribeXML()) return;
-    visores->CreateVisorEmbeddedWB(propietario_, ficheroXml_, "Datos actuales del documento");
-}
-
-void TFListaConceptosPreseleccionados::MuestraPizarra() {
-    if (informe_.empty()) return;
-    try {
-        if (!AbreInforme(informe_))
-            Mensajes(TITULO_ATENCION, "No se puede mostrar el informe: no hay programa que abra textos");
-    } catch (const std::filesystem::filesystem_error& error) {
-        AvisaFichero("No se puede mostrar el informe", error);
-    }
 }
 
 }  // namespace analizador

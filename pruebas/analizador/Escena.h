@@ -177,6 +177,8 @@ class TEscena {
                      std::vector<TMarcador> marcadores = {});
 
     [[nodiscard]] TDocumentoGrabado& Documento() { return *FDocumento; }
+    // From now on nobody reviews.
+    void QuitaRevisor() { FInstalaRevisor.reset(); }
 
     TDiario Diario;
     TVocabularioDePrueba Vocabulario;
@@ -190,7 +192,7 @@ class TEscena {
     InstalaTablas FInstalaTablas{Tablas};
     InstalaConfig FInstalaConfig{Configuracion};
     InstalaPantalla FInstalaPantalla{Pantalla};
-    InstalaVistaPreseleccion FInstalaRevisor{Revisor};
+    std::optional<InstalaVistaPreseleccion> FInstalaRevisor{std::in_place, Revisor};
     InstalaSeleccionaNotario FInstalaSelector{Selector};
     TDocumentoGrabado* FDocumento;
 

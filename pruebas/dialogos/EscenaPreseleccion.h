@@ -3,13 +3,17 @@
 #include <cstddef>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
+#include "dialogos/FicherosParaVer.h"
 #include "dialogos/ListaConceptosPreseleccionados.h"
 #include "plataforma/Mensaje.h"
 #include "plataforma/Visor.h"
@@ -22,13 +26,15 @@ using TTextos = std::vector<std::string>;
 using TPosiciones = std::vector<std::size_t>;
 
 // Message boxes answered beforehand, which keep what they said.
-struct TMensajesDePrueba : TMensajes {
+struct TMensajesContestados : TMensajes {
     std::vector<std::pair<std::string, std::string>> Mostrados;
     std::vector<std::pair<std::string, std::string>> Preguntas;
+    std::function<void()> AlMostrar;
     std::vector<bool> Respuestas;  // one for each question, in order; then no
 
     void Muestra(std::string_view titulo, std::string_view texto) override {
         Mostrados.emplace_back(titulo, texto);
+        if (AlMostrar) AlMostrar();
     }
     [[nodiscard]] bool Pregunta(std::string_view titulo, std::string_view texto) override {
         const std::size_t cual = Preguntas.size();
@@ -41,6 +47,20 @@ inline std::string BytesDe(const std::filesystem::path& fichero) {
     std::ifstream entrada(fichero, std::ios::binary);
     return {std::istreambuf_iterator<char>(entrada), {}};
 }
+
+// How many files of a prefix stand where temporary files go.
+inline std::size_t Cuantos(std::string_view prefijo) {
+    const std::filesystem::path uno = EscribeFicheroTemporal("MIRA", "txt", "");
+    std::size_t cuenta = 0;
+    for (const auto& entrada : std::filesystem::directory_iterator(uno.parent_path()))
+        if (entrada.path().filename().string().starts_with(prefijo)) ++cuenta;
+    std::filesystem::remove(uno);
+    return cuenta;
+}
+
+// An XML as the session hands it over, and as it is shown.
+inline const std::string XML = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<a>\xF1</a>";
+inline const std::string XML_UTF8 = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<a>ñ</a>";
 
 // Viewers that keep what they were shown; the report files are removed with them.
 struct TVisoresDePrueba : TVisores {
@@ -113,7 +133,8 @@ inline TROtorgante PersonaEnXml(std::string nombre, std::string documento) {
     return otorgante;
 }
 
-// What the dialog needs around it: a table of four types, message boxes and viewers.
+// What the dialog needs around it: a table of four types, those of the party details,
+// message boxes and viewers.
 class TEscenaPreseleccion {
   public:
     TEscenaPreseleccion() {
@@ -122,6 +143,9 @@ class TEscenaPreseleccion {
                                   {"Hipoteca", "2", "05001", "T", "C", "PRESTAMO HIPOTECARIO"},
                                   {"Poder", "30", "03001", "F", "A", "PODER"},
                                   {"Personal", "4", "05002", "T", "B", "PRESTAMO"}}});
+        Tablas.Pon("PROVIN.DBF", {{"PROVINCIA", "CODIGO", "GRUPO"}, {{"MADRID", "28", "1"}}});
+        Tablas.Pon("TIPO_VIA.DBF", {{"CODIGO", "NOMBRE"}, {{"CL", "CALLE"}}});
+        Tablas.Pon("TIPO_INT.DBF", {{"CODIGO", "DESCRIPCIO"}, {{"99", "NINGUNA"}}});
     }
 
     // A dialog with these concepts (all of number 7) and parties found.
@@ -140,16 +164,19 @@ class TEscenaPreseleccion {
         return dialogo;
     }
 
+    // From now on there are no viewers.
+    void QuitaVisores() { FInstalaVisores.reset(); }
+
     TTablasDePrueba Tablas;
     TConfigDePrueba Configuracion;
-    TMensajesDePrueba Mensajes;
+    TMensajesContestados Mensajes;
     TVisoresDePrueba Visores;
 
   private:
     InstalaTablas FInstalaTablas{Tablas};
     InstalaConfig FInstalaConfig{Configuracion};
     InstalaMensajes FInstalaMensajes{Mensajes};
-    InstalaVisores FInstalaVisores{Visores};
+    std::optional<InstalaVisores> FInstalaVisores{std::in_place, Visores};
 };
 
 }  // namespace analizador
