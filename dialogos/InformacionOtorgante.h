@@ -6,15 +6,16 @@
 #include <array>
 #include <cstddef>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "dialogos/SelectorMunicipios.h"
 #include "dialogos/Teclas.h"
 #include "modelo/TROtorgante.h"
 #include "plataforma/Instalado.h"
 #include "plataforma/Pantalla.h"
+#include "plataforma/Rvarias.h"
 
 namespace analizador {
 
@@ -68,7 +69,7 @@ struct TDescripcionControl {
     TGrupoDatos Grupo;
     std::string_view Rotulo;  // of the label beside it, or the text of the check box or button; may be empty
     std::string_view Pista;   // the hint; may be empty
-    std::size_t Maximo = 0;   // how many characters can be typed; 0 for what is not typed
+    std::size_t Maximo = 0;   // how many characters can be typed; 0 where nothing limits them
     int FilasVisibles = 0;    // of an open list; 0 where nothing is said
 };
 
@@ -87,12 +88,23 @@ struct TEstadoControl {
     bool ConFoco = false;  // the mark of the control that has the focus
 };
 
+struct TTecleado {
+    std::string Texto;
+    std::size_t Cursor = 0;  // where the cursor goes, from 0
+};
+
+// The title of the dialog.
+inline constexpr std::string_view TITULO_DATOS_LEIDOS = "Datos leidos";
+
+// The date without a digit.
+inline constexpr std::string_view FECHA_EN_BLANCO = "  /  /    ";
+
 // The dialog "Datos leidos" over one party.
 class TFInformacionOtorgante {
   public:
-    // Keeps the record, which must outlive the dialog, fills the lists and loads the record. Throws
-    // ErrorTabla.
-    explicit TFInformacionOtorgante(TROtorgante& otorgante);
+    // Keeps the record, which must outlive the dialog, fills the lists and loads the record. `hoy` decides
+    // the century of years typed with two digits. Throws ErrorTabla.
+    explicit TFInformacionOtorgante(TROtorgante& otorgante, TFecha hoy = Hoy());
 
     [[nodiscard]] const TEstadoControl& Control(TControlDatos control) const;
     [[nodiscard]] TControlDatos Foco() const { return foco_; }
@@ -102,16 +114,16 @@ class TFInformacionOtorgante {
     // ---- What the user does; the view hands it over and then shows what the dialog holds, sets the focus to
     // Foco() and closes when there is a Resultado()
 
-    // The text that a control holds after the user typed: what was typed in capitals and cut to the control's
-    // length, what was there before left as it was. `anterior`: the text before, `nuevo`: after, `fin`: the
-    // position of the end of what was typed or pasted in `nuevo`, from 0. For the date: the masked text,
-    // ten characters.
-    [[nodiscard]] static std::string AjustaTecleado(TControlDatos control, std::string_view anterior,
-                                                    std::string_view nuevo, std::size_t fin);
+    // What a box, the date or an editable list holds after the user typed: what was typed in capitals and cut
+    // to the control's length, what was there before left as it was. `anterior`: the text before, `nuevo`:
+    // after, `fin`: the position of the cursor in `nuevo`, hence the end of what was typed or pasted, from 0.
+    // The date takes and gives the masked text, ten characters; digits that are typed overwrite.
+    [[nodiscard]] static TTecleado AjustaTecleado(TControlDatos control, std::string_view anterior,
+                                                  std::string_view nuevo, std::size_t fin);
 
-    // The text of a box, the date or an editable list is now this one.
+    // The text of a box, the date or an editable list is now this one, as AjustaTecleado gave it.
     void Escribe(TControlDatos control, std::string texto);
-    // An item of a list was chosen.
+    // An item of a list was chosen; a position that does not exist changes nothing.
     void Elige(TControlDatos control, int posicion);
     void Marca(bool marcado);  // CBRESIDENTE
     // The user moves the focus to another control of the dialog. The control left is checked first; Foco()
@@ -131,7 +143,30 @@ class TFInformacionOtorgante {
     void Cierra();
 
   private:
+    [[nodiscard]] TEstadoControl& Estado(TControlDatos control) {
+        return controles_[static_cast<std::size_t>(control)];
+    }
+
+    void PreparaFormulario();
+    void CargaProvinciasyPaises();
+    void CargaTipo_Via();
+    void CargaTipo_Int();
+
+    void CargaOtorgante();
+    void ActualizaOtorgante();
+
+    [[nodiscard]] bool PuedeTenerFoco(TControlDatos control) const;
+    void Selecciona(TControlDatos lista, int posicion);
+    void PonTexto(TControlDatos control, std::string texto);
+    void Cambiado(TControlDatos control);
+    void Dejado(TControlDatos control);
+    bool CompruebaFecha();
+    void ListaINE();
+    void TomaMunicipio(const TMunicipio& municipio);
+    void Acepta();
+
     TROtorgante* otorgante_;
+    TFecha hoy_;
     std::array<TEstadoControl, CONTROLES_DATOS> controles_;
     TControlDatos foco_ = TControlDatos::ENombre;
     std::optional<bool> resultado_;

@@ -30,24 +30,39 @@ struct TSemillasMunicipio {
 
 class TSelectorMunicipios {
   public:
-    // Loads MUNICIPI (and PROVIN for the names); the current row is the one that fits the seeds best. Throws
-    // ErrorTabla.
+    // Loads MUNICIPI (and PROVIN for the names); rows of the table with the same values here are one row. The
+    // current row is the one that fits the seeds best: the most of them equal, names folded and in any form
+    // that the table has; when it is one alone, the statistics code before the name before the postal code;
+    // then the row whose name begins with the name given; then the first. Throws ErrorTabla.
     explicit TSelectorMunicipios(const TSemillasMunicipio& semillas);
 
     // The rows that the filter leaves, in the order of their names.
     [[nodiscard]] std::size_t Cuenta() const { return visibles_.size(); }
-    [[nodiscard]] const TMunicipio& Fila(std::size_t i) const { return todos_[visibles_[i]]; }
+    [[nodiscard]] const TMunicipio& Fila(std::size_t i) const { return todos_[visibles_[i]].Municipio; }
     [[nodiscard]] const std::string& Filtro() const { return filtro_; }
     // Keeps the rows whose name, province or codes hold every word of the text, folded; those whose name
     // begins with it come first. The current row is then the first.
     void Filtra(std::string texto);
     [[nodiscard]] std::optional<std::size_t> Actual() const { return actual_; }
+    // A row that does not exist is none.
     void PonActual(std::optional<std::size_t> donde);
 
   private:
-    std::vector<TMunicipio> todos_;
+    struct TFilaMunicipio {
+        TMunicipio Municipio;
+        std::vector<std::string> Nombres;  // its name and the other forms of it, folded
+
+        [[nodiscard]] bool Contiene(std::string_view palabra) const;
+        [[nodiscard]] bool Empieza(std::string_view principio) const;
+        // How well it fits the seeds, whose name is folded; 0 not at all.
+        [[nodiscard]] int Encaje(const TSemillasMunicipio& semillas) const;
+    };
+
+    void Carga();
+    [[nodiscard]] std::optional<std::size_t> MejorFila(const TSemillasMunicipio& semillas) const;
+
+    std::vector<TFilaMunicipio> todos_;
     std::vector<std::size_t> visibles_;
-    std::vector<std::string> plegados_;
     std::string filtro_;
     std::optional<std::size_t> actual_;
 };
