@@ -36,39 +36,39 @@ TControlesPreseleccion::TControlesPreseleccion(QDialog& ventana)
 }
 
 QWidget& TControlesPreseleccion::Control(TControlPreseleccion control) {
-    using enum TControlPreseleccion;
+    using TControl = TControlPreseleccion;
     switch (control) {
-        case LBPosiblesConceptos:
+        case TControl::LBPosiblesConceptos:
             return Conceptos.Posibles;
-        case TControlPreseleccion::BMas:
+        case TControl::BMas:
             return Conceptos.Mas;
-        case BMenos:
+        case TControl::BMenos:
             return Conceptos.Menos;
-        case LBConceptos:
+        case TControl::LBConceptos:
             return Conceptos.Validos;
-        case TControlPreseleccion::dbgTipos:
+        case TControl::dbgTipos:
             return dbgTipos;
-        case TControlPreseleccion::eBusca:
+        case TControl::eBusca:
             return eBusca;
-        case TControlPreseleccion::BMasBD:
+        case TControl::BMasBD:
             return BMasBD;
-        case LBPosiblesOtorgantes:
+        case TControl::LBPosiblesOtorgantes:
             return Otorgantes.Posibles;
-        case BMasOtor:
+        case TControl::BMasOtor:
             return Otorgantes.Mas;
-        case BMenosOtor:
+        case TControl::BMenosOtor:
             return Otorgantes.Menos;
-        case LBOtorgantes:
+        case TControl::LBOtorgantes:
             return Otorgantes.Validos;
-        case TControlPreseleccion::BDetallesOtorgante:
+        case TControl::BDetallesOtorgante:
             return BDetallesOtorgante;
-        case TControlPreseleccion::SBPizarra:
+        case TControl::SBPizarra:
             return SBPizarra;
-        case TControlPreseleccion::SPXML:
+        case TControl::SPXML:
             return SPXML;
-        case TControlPreseleccion::BContinuar:
+        case TControl::BContinuar:
             return BContinuar;
-        case TControlPreseleccion::BCancelar:
+        case TControl::BCancelar:
             break;
     }
     return BCancelar;

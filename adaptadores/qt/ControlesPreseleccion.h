@@ -18,15 +18,22 @@
 
 namespace analizador {
 
-inline constexpr std::array CONTROLES_PRESELECCION = {
-    TControlPreseleccion::LBPosiblesConceptos,  TControlPreseleccion::BMas,
-    TControlPreseleccion::BMenos,               TControlPreseleccion::LBConceptos,
-    TControlPreseleccion::dbgTipos,             TControlPreseleccion::eBusca,
-    TControlPreseleccion::BMasBD,               TControlPreseleccion::LBPosiblesOtorgantes,
-    TControlPreseleccion::BMasOtor,             TControlPreseleccion::BMenosOtor,
-    TControlPreseleccion::LBOtorgantes,         TControlPreseleccion::BDetallesOtorgante,
-    TControlPreseleccion::SBPizarra,            TControlPreseleccion::SPXML,
-    TControlPreseleccion::BContinuar,           TControlPreseleccion::BCancelar};
+inline constexpr std::array CONTROLES_PRESELECCION = {TControlPreseleccion::LBPosiblesConceptos,
+                                                      TControlPreseleccion::BMas,
+                                                      TControlPreseleccion::BMenos,
+                                                      TControlPreseleccion::LBConceptos,
+                                                      TControlPreseleccion::dbgTipos,
+                                                      TControlPreseleccion::eBusca,
+                                                      TControlPreseleccion::BMasBD,
+                                                      TControlPreseleccion::LBPosiblesOtorgantes,
+                                                      TControlPreseleccion::BMasOtor,
+                                                      TControlPreseleccion::BMenosOtor,
+                                                      TControlPreseleccion::LBOtorgantes,
+                                                      TControlPreseleccion::BDetallesOtorgante,
+                                                      TControlPreseleccion::SBPizarra,
+                                                      TControlPreseleccion::SPXML,
+                                                      TControlPreseleccion::BContinuar,
+                                                      TControlPreseleccion::BCancelar};
 
 // The widgets of the preselection dialog, laid out in its window: names, captions, hints and focus order, and
 // nothing of what they do. Members are declared from the outside in: what is inside another is destroyed
@@ -75,7 +82,7 @@ class TControlesPreseleccion {
     QPushButton SPXML;
     QPushButton BContinuar;
     QPushButton BCancelar;
-    TVisorXml Visor;
+    VisorXml Visor;
     QAction VerPosible;  // the entries of the two party lists' menus
     QAction VerValido;
 };

@@ -26,8 +26,8 @@ void TDelegadoFilas::initStyleOption(QStyleOptionViewItem* opcion, const QModelI
     QStyledItemDelegate::initStyleOption(opcion, indice);
     const bool actual = indice.row() == vista_->currentIndex().row();
     if (actual && !opcion->state.testFlag(QStyle::State_Selected))
-        opcion->backgroundBrush = Mezcla(opcion->palette.color(QPalette::Base),
-                                         opcion->palette.color(QPalette::Highlight));
+        opcion->backgroundBrush =
+            Mezcla(opcion->palette.color(QPalette::Base), opcion->palette.color(QPalette::Highlight));
 }
 
 }  // namespace analizador

@@ -5,8 +5,8 @@
 
 namespace analizador {
 
-// Draws the rows of a view as Qt does, and tints the current one where it is not selected: the clerk sees what
-// a search found, or what follows the row just moved, while the focus is elsewhere.
+// Draws the rows of a view as Qt does, and tints the current one where it is not selected: the clerk sees
+// what a search found, or what follows the row just moved, while the focus is elsewhere.
 class TDelegadoFilas : public QStyledItemDelegate {
   public:
     // Becomes the delegate of the view, which must outlive it.

@@ -28,8 +28,9 @@ class TEnlace : public TEnlaceFilas {
 
     void Toma() override {
         std::vector<std::size_t> posiciones;
-        for (const QModelIndex& indice : vista_->selectionModel()->selectedRows())
-            posiciones.push_back(static_cast<std::size_t>(indice.row()));
+        const std::vector<bool> marcadas = Marcadas(vista_->selectionModel()->selection());
+        for (std::size_t i = 0; i < marcadas.size(); ++i)
+            if (marcadas[i]) posiciones.push_back(i);
         filas_->Selecciona(posiciones);
         const QModelIndex actual = vista_->currentIndex();
         filas_->PonActual(actual.isValid() ? std::optional(static_cast<std::size_t>(actual.row()))
@@ -49,7 +50,7 @@ class TEnlace : public TEnlaceFilas {
     void MuestraSeleccion() {
         const QItemSelection nueva = Seleccion();
         QItemSelectionModel& seleccion = *vista_->selectionModel();
-        if (Filas_(nueva) != Filas_(seleccion.selection()))
+        if (Marcadas(nueva) != Marcadas(seleccion.selection()))
             seleccion.select(nueva, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
 
@@ -62,21 +63,20 @@ class TEnlace : public TEnlaceFilas {
         if (indice.isValid()) vista_->scrollTo(indice);
     }
 
-    // One range for each run of selected rows: thousands of single rows would be slow to select.
+    // One range for each run of selected rows, for thousands of single ones would be slow to select.
     [[nodiscard]] QItemSelection Seleccion() const {
         QItemSelection seleccion;
         const int cuenta = modelo_->rowCount();
-        const int ultimaColumna = modelo_->columnCount({}) - 1;
         for (int fila = 0; fila < cuenta; ++fila) {
             const int primera = fila;
             while (fila < cuenta && filas_->Seleccionada(static_cast<std::size_t>(fila))) ++fila;
-            if (fila > primera)
-                seleccion.append({modelo_->index(primera, 0), modelo_->index(fila - 1, ultimaColumna)});
+            if (fila > primera) seleccion.append({modelo_->index(primera, 0), modelo_->index(fila - 1, 0)});
         }
         return seleccion;
     }
 
-    [[nodiscard]] std::vector<bool> Filas_(const QItemSelection& seleccion) const {
+    // Of each row, whether it is in the selection.
+    [[nodiscard]] std::vector<bool> Marcadas(const QItemSelection& seleccion) const {
         std::vector<bool> filas(static_cast<std::size_t>(modelo_->rowCount()));
         for (const QItemSelectionRange& tramo : seleccion)
             for (int fila = tramo.top(); fila <= tramo.bottom(); ++fila)

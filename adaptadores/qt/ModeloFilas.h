@@ -16,8 +16,8 @@
 
 namespace analizador {
 
-// What a drag between the lists carries: nothing but that it is one of theirs. Which rows are meant is known to
-// the dialog.
+// What a drag between the lists carries: nothing but that it is one of theirs. Which rows are meant is known
+// to the dialog.
 inline constexpr auto FORMATO_FILAS = "application/x-analizador-filas";
 
 // A model whose rows are those that the dialog holds. What a drag of its rows does with them is given at
@@ -70,9 +70,9 @@ class TModeloLista : public TModeloFilas<QAbstractListModel> {
 
     // `enCursiva`: which lines are drawn in italic; `pistaCursiva`: the hint that those have.
     explicit TModeloLista(
-        const TListaSeleccion<T>& lista, std::function<bool(const Linea&)> enCursiva = [](const Linea&) {
-            return false;
-        }, QString pistaCursiva = {})
+        const TListaSeleccion<T>& lista,
+        std::function<bool(const Linea&)> enCursiva = [](const Linea&) { return false; },
+        QString pistaCursiva = {})
         : TModeloFilas(Qt::MoveAction),
           lista_(&lista),
           enCursiva_(std::move(enCursiva)),
@@ -84,8 +84,8 @@ class TModeloLista : public TModeloFilas<QAbstractListModel> {
         if (!Existe(indice)) return {};
         const Linea& linea = lista_->Lineas()[static_cast<std::size_t>(indice.row())];
         if (papel == Qt::DisplayRole) return QtDeAnsi(linea.Texto);
-        const bool deCursiva = papel == Qt::FontRole || papel == Qt::ToolTipRole ||
-                               papel == Qt::AccessibleDescriptionRole;
+        const bool deCursiva =
+            papel == Qt::FontRole || papel == Qt::ToolTipRole || papel == Qt::AccessibleDescriptionRole;
         if (!deCursiva || !enCursiva_(linea)) return {};
         if (papel != Qt::FontRole) return pistaCursiva_;
         QFont letra;

@@ -23,12 +23,13 @@ QString Valor(const TFilaTipo& fila, TColumnaTipos columna) {
     return {};
 }
 
-bool EsNumero(int columna) { return static_cast<TColumnaTipos>(columna) == TColumnaTipos::NUMEROTIPO; }
+bool EsNumero(int columna) {
+    return static_cast<TColumnaTipos>(columna) == TColumnaTipos::NUMEROTIPO;
+}
 
 }  // namespace
 
-TModeloTipos::TModeloTipos(const TRejillaTipos& rejilla)
-    : TModeloFilas(Qt::CopyAction), rejilla_(&rejilla) {
+TModeloTipos::TModeloTipos(const TRejillaTipos& rejilla) : TModeloFilas(Qt::CopyAction), rejilla_(&rejilla) {
     Recarga();
 }
 

@@ -43,7 +43,8 @@ TPanelListas::TPanelListas(const TRotulosPanel& rotulos) {
     PreparaLista(Validos, rotulos.NombreValidos);
     PreparaRotulo(RotuloPosibles, rotulos.RotuloPosibles, Posibles);
     PreparaRotulo(RotuloValidos, rotulos.RotuloValidos, Validos);
-    PreparaBoton(Mas, rotulos.NombreMas, QStringLiteral("Añadir \u2192"), QString::fromUtf8(rotulos.PistaMas));
+    PreparaBoton(Mas, rotulos.NombreMas, QStringLiteral("Añadir \u2192"),
+                 QString::fromUtf8(rotulos.PistaMas));
     PreparaBoton(Menos, rotulos.NombreMenos, QStringLiteral("\u2190 Quitar"),
                  QString::fromUtf8(rotulos.PistaMenos));
 
@@ -61,6 +62,8 @@ TPanelListas::TPanelListas(const TRotulosPanel& rotulos) {
     columna_.addStretch();
 }
 
-void TPanelListas::AnadeBoton(QPushButton& boton) { columna_.insertWidget(columna_.count() - 1, &boton); }
+void TPanelListas::AnadeBoton(QPushButton& boton) {
+    columna_.insertWidget(columna_.count() - 1, &boton);
+}
 
 }  // namespace analizador

@@ -20,7 +20,9 @@ void TTitulosRejilla::PonAmarillo(bool amarillo) {
     viewport()->update();
 }
 
-QColor TTitulosRejilla::Fondo() const { return amarillo_ ? AMARILLO : palette().color(QPalette::Button); }
+QColor TTitulosRejilla::Fondo() const {
+    return amarillo_ ? AMARILLO : palette().color(QPalette::Button);
+}
 
 QColor TTitulosRejilla::Letra() const {
     return amarillo_ ? QColor(Qt::black) : palette().color(QPalette::ButtonText);

@@ -161,7 +161,7 @@ void TVentanaPreseleccion::MuestraXml() {
     controles_.PCAnalizadorabierto.setCurrentIndex(static_cast<int>(dialogo_->Pagina()));
     if (!visible || xmlCargado_ || dialogo_->FicheroXML().empty()) return;
     xmlCargado_ = true;
-    controles_.Visor.Carga(dialogo_->FicheroXML());
+    controles_.Visor.MuestraFichero(dialogo_->FicheroXML());
 }
 
 // A control of the page that does not show gets the focus when its page comes back.
