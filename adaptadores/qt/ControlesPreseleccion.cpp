@@ -102,6 +102,14 @@ void TControlesPreseleccion::PreparaTipos() {
     eBusca.setAccessibleName(eBusca.placeholderText());
 }
 
+void TControlesPreseleccion::RepartoColumnas() {
+    Titulos.setResizeContentsPrecision(0);
+    for (const auto columna : {TColumnaTipos::NUMEROTIPO, TColumnaTipos::CLAVE_INTI})
+        Titulos.setSectionResizeMode(static_cast<int>(columna), QHeaderView::ResizeToContents);
+    for (const auto columna : {TColumnaTipos::NOMBRE, TColumnaTipos::TIPO})
+        Titulos.setSectionResizeMode(static_cast<int>(columna), QHeaderView::Stretch);
+}
+
 void TControlesPreseleccion::PreparaBotones() {
     PreparaBoton(BMasBD, "BMasBD", QStringLiteral("\u2191 Añadir el tipo"),
                  QStringLiteral("Añadir los tipos seleccionados a los conceptos válidos"));
@@ -136,6 +144,7 @@ void TControlesPreseleccion::RepartePaginas() {
     mitades_.addWidget(&tipos_);
     mitades_.addWidget(&Otorgantes);
     mitades_.setChildrenCollapsible(false);
+    mitades_.setHandleWidth(mitades_.fontMetrics().height() * 3 / 4);
     paginaInformacion_.addWidget(&mitades_);
     paginaXml_.addWidget(&Visor);
 }

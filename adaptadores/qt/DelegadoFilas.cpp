@@ -7,7 +7,7 @@ namespace analizador {
 namespace {
 
 QColor Mezcla(const QColor& fondo, const QColor& tinte) {
-    constexpr float PARTE = 0.3F;
+    constexpr float PARTE = 0.2F;
     const auto media = [](float a, float b) { return a + (b - a) * PARTE; };
     return QColor::fromRgbF(media(fondo.redF(), tinte.redF()), media(fondo.greenF(), tinte.greenF()),
                             media(fondo.blueF(), tinte.blueF()));
@@ -20,6 +20,10 @@ TDelegadoFilas::TDelegadoFilas(QAbstractItemView& vista) : vista_(&vista) {
     // Qt draws only the current cell anew; the tint is the whole row's.
     connect(vista.selectionModel(), &QItemSelectionModel::currentRowChanged, vista.viewport(),
             [&vista] { vista.viewport()->update(); });
+}
+
+QSize TDelegadoFilas::sizeHint(const QStyleOptionViewItem& opcion, const QModelIndex& indice) const {
+    return QStyledItemDelegate::sizeHint(opcion, indice) + QSize(0, opcion.fontMetrics.height() / 4);
 }
 
 void TDelegadoFilas::initStyleOption(QStyleOptionViewItem* opcion, const QModelIndex& indice) const {

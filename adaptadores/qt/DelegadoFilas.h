@@ -12,6 +12,10 @@ class TDelegadoFilas : public QStyledItemDelegate {
     // Becomes the delegate of the view, which must outlive it.
     explicit TDelegadoFilas(QAbstractItemView& vista);
 
+    // A little room between the rows, so that the lines of a long one are seen to be one.
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& opcion,
+                                 const QModelIndex& indice) const override;
+
   protected:
     void initStyleOption(QStyleOptionViewItem* opcion, const QModelIndex& indice) const override;
 

@@ -4,11 +4,13 @@
 
 #include <QAbstractListModel>
 #include <QAbstractTableModel>
+#include <QByteArray>
 #include <QFont>
 #include <QMimeData>
 #include <QStringList>
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "adaptadores/qt/TextoQt.h"
 #include "dialogos/ListaSeleccion.h"
@@ -20,12 +22,13 @@ namespace analizador {
 // to the dialog.
 inline constexpr auto FORMATO_FILAS = "application/x-analizador-filas";
 
-// A model whose rows are those that the dialog holds. What a drag of its rows does with them is given at
-// creation: a list gives its rows away, the table of types keeps them.
+// A model whose rows are those that the dialog holds. Given at creation: the mark that its drags carry, and
+// what they do with the rows, for a list gives them away and the table of types keeps them.
 template <class Base>
 class TModeloFilas : public Base {
   public:
-    explicit TModeloFilas(Qt::DropAction alArrastrar) : alArrastrar_(alArrastrar) {}
+    TModeloFilas(QByteArray marca, Qt::DropAction alArrastrar)
+        : marca_(std::move(marca)), alArrastrar_(alArrastrar) {}
 
     // The lines changed: the view draws them anew. How many there are is what the model says until the next
     // call, whatever happens meanwhile to the dialog's lines.
@@ -45,7 +48,7 @@ class TModeloFilas : public Base {
     [[nodiscard]] QStringList mimeTypes() const override { return {FORMATO_FILAS}; }
     [[nodiscard]] QMimeData* mimeData(const QModelIndexList&) const override {
         auto datos = std::make_unique<QMimeData>();
-        datos->setData(FORMATO_FILAS, "1");
+        datos->setData(FORMATO_FILAS, marca_);
         return datos.release();  // Qt's drag owns it
     }
     [[nodiscard]] Qt::DropActions supportedDragActions() const override { return alArrastrar_; }
@@ -58,6 +61,7 @@ class TModeloFilas : public Base {
     }
 
   private:
+    QByteArray marca_;
     Qt::DropAction alArrastrar_;
     int filas_ = 0;
 };
@@ -69,11 +73,11 @@ class TModeloLista : public TModeloFilas<QAbstractListModel> {
     using Linea = typename TListaSeleccion<T>::Linea;
 
     // `enCursiva`: which lines are drawn in italic; `pistaCursiva`: the hint that those have.
-    explicit TModeloLista(
-        const TListaSeleccion<T>& lista,
+    TModeloLista(
+        const TListaSeleccion<T>& lista, QByteArray marca,
         std::function<bool(const Linea&)> enCursiva = [](const Linea&) { return false; },
         QString pistaCursiva = {})
-        : TModeloFilas(Qt::MoveAction),
+        : TModeloFilas(std::move(marca), Qt::MoveAction),
           lista_(&lista),
           enCursiva_(std::move(enCursiva)),
           pistaCursiva_(std::move(pistaCursiva)) {
@@ -105,7 +109,7 @@ class TModeloLista : public TModeloFilas<QAbstractListModel> {
 // The model of the grid over the deed types.
 class TModeloTipos : public TModeloFilas<QAbstractTableModel> {
   public:
-    explicit TModeloTipos(const TRejillaTipos& rejilla);
+    TModeloTipos(const TRejillaTipos& rejilla, QByteArray marca);
 
     [[nodiscard]] int columnCount(const QModelIndex& padre = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& indice, int papel) const override;

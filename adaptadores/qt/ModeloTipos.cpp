@@ -29,7 +29,8 @@ bool EsNumero(int columna) {
 
 }  // namespace
 
-TModeloTipos::TModeloTipos(const TRejillaTipos& rejilla) : TModeloFilas(Qt::CopyAction), rejilla_(&rejilla) {
+TModeloTipos::TModeloTipos(const TRejillaTipos& rejilla, QByteArray marca)
+    : TModeloFilas(std::move(marca), Qt::CopyAction), rejilla_(&rejilla) {
     Recarga();
 }
 

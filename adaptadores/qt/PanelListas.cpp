@@ -1,5 +1,8 @@
 #include "adaptadores/qt/PanelListas.h"
 
+#include <QSpacerItem>
+#include <memory>
+
 namespace analizador {
 
 namespace {
@@ -52,11 +55,15 @@ TPanelListas::TPanelListas(const TRotulosPanel& rotulos) {
     rejilla_.addWidget(&RotuloPosibles, 0, 0);
     rejilla_.addWidget(&RotuloValidos, 0, 2);
     rejilla_.addWidget(&Posibles, 1, 0);
-    rejilla_.addLayout(&columna_, 1, 1);
+    rejilla_.addLayout(&columna_, 0, 1, 2, 1);
     rejilla_.addWidget(&Validos, 1, 2);
     rejilla_.setColumnStretch(0, 1);
     rejilla_.setColumnStretch(2, 1);
     rejilla_.setRowStretch(1, 1);
+    // Beside the lists where there is room, beside the labels too where there is little.
+    columna_.addItem(
+        std::make_unique<QSpacerItem>(0, fontMetrics().height(), QSizePolicy::Minimum, QSizePolicy::Maximum)
+            .release());
     columna_.addWidget(&Mas);
     columna_.addWidget(&Menos);
     columna_.addStretch();
@@ -64,6 +71,11 @@ TPanelListas::TPanelListas(const TRotulosPanel& rotulos) {
 
 void TPanelListas::AnadeBoton(QPushButton& boton) {
     columna_.insertWidget(columna_.count() - 1, &boton);
+}
+
+void TPanelListas::resizeEvent(QResizeEvent* suceso) {
+    QWidget::resizeEvent(suceso);
+    setMinimumHeight(rejilla_.minimumHeightForWidth(width()));
 }
 
 }  // namespace analizador

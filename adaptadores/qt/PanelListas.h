@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QString>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -33,6 +34,10 @@ class TPanelListas : public QWidget {
     explicit TPanelListas(const TRotulosPanel& rotulos);
     // Puts another button under the two.
     void AnadeBoton(QPushButton& boton);
+
+  protected:
+    // The labels take more lines where there is less width.
+    void resizeEvent(QResizeEvent* suceso) override;
 
   private:
     QGridLayout rejilla_{this};

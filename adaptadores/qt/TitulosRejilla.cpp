@@ -20,6 +20,20 @@ void TTitulosRejilla::PonAmarillo(bool amarillo) {
     viewport()->update();
 }
 
+QString TTitulosRejilla::Titulo(int seccion) const {
+    return model()->headerData(seccion, Qt::Horizontal).toString();
+}
+
+int TTitulosRejilla::Margen() const {
+    return style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+}
+
+QSize TTitulosRejilla::sectionSizeFromContents(int seccion) const {
+    const QFontMetrics letra = fontMetrics();
+    return {letra.horizontalAdvance(Titulo(seccion)) + letra.height() + 2 * Margen(),
+            letra.height() + 2 * Margen()};
+}
+
 QColor TTitulosRejilla::Fondo() const {
     return amarillo_ ? AMARILLO : palette().color(QPalette::Button);
 }
@@ -29,7 +43,6 @@ QColor TTitulosRejilla::Letra() const {
 }
 
 void TTitulosRejilla::paintSection(QPainter* pintor, const QRect& zona, int seccion) const {
-    const int margen = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
     pintor->fillRect(zona, Fondo());
     pintor->setPen(palette().color(QPalette::Mid));
     pintor->drawLine(zona.topRight(), zona.bottomRight());
@@ -37,9 +50,8 @@ void TTitulosRejilla::paintSection(QPainter* pintor, const QRect& zona, int secc
     pintor->setPen(Letra());
     const bool activa = seccion == sortIndicatorSection();
     const int flecha = activa ? fontMetrics().height() : 0;
-    const QRect texto = zona.adjusted(margen, 0, -margen - flecha, 0);
-    pintor->drawText(texto, Qt::AlignLeft | Qt::AlignVCenter,
-                     model()->headerData(seccion, Qt::Horizontal).toString());
+    const QRect texto = zona.adjusted(Margen(), 0, -Margen() - flecha, 0);
+    pintor->drawText(texto, Qt::AlignLeft | Qt::AlignVCenter, Titulo(seccion));
     if (activa) PintaFlecha(*pintor, {texto.right() + 1, zona.top(), flecha, zona.height()});
 }
 

@@ -12,9 +12,13 @@ class TTitulosRejilla : public QHeaderView {
     void PonAmarillo(bool amarillo);
 
   protected:
+    // Room for the arrow in every column, for any of them may get it.
+    [[nodiscard]] QSize sectionSizeFromContents(int seccion) const override;
     void paintSection(QPainter* pintor, const QRect& zona, int seccion) const override;
 
   private:
+    [[nodiscard]] QString Titulo(int seccion) const;
+    [[nodiscard]] int Margen() const;
     [[nodiscard]] QColor Fondo() const;
     [[nodiscard]] QColor Letra() const;
     void PintaFlecha(QPainter& pintor, const QRect& zona) const;

@@ -1,6 +1,7 @@
 #include "adaptadores/qt/VentanaPreseleccion.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -50,7 +51,7 @@ std::unique_ptr<TEnlaceFilas> Enlaza(QAbstractItemView& vista, Filas& filas, Mod
 
 // Sized by the letter, and never larger than the screen.
 QSize TamanoInicial(const QWidget& ventana) {
-    constexpr int LETRAS_ANCHO = 140;
+    constexpr int LETRAS_ANCHO = 150;
     constexpr int LINEAS_ALTO = 36;
     const QFontMetrics letra = ventana.fontMetrics();
     const QSize bueno(letra.averageCharWidth() * LETRAS_ANCHO, letra.lineSpacing() * LINEAS_ALTO);
@@ -62,12 +63,13 @@ QSize TamanoInicial(const QWidget& ventana) {
 TVentanaPreseleccion::TVentanaPreseleccion(TFListaConceptosPreseleccionados& dialogo, QWidget* padre)
     : QDialog(padre),
       dialogo_(&dialogo),
-      posiblesConceptos_(dialogo.LBPosiblesConceptos),
-      conceptos_(dialogo.LBConceptos),
-      posiblesOtorgantes_(dialogo.LBPosiblesOtorgantes, TFListaConceptosPreseleccionados::EnCursiva,
-                          PISTA_CURSIVA),
-      otorgantes_(dialogo.LBOtorgantes, TFListaConceptosPreseleccionados::EnCursiva, PISTA_CURSIVA),
-      tipos_(dialogo.dbgTipos) {
+      posiblesConceptos_(dialogo.LBPosiblesConceptos, Marca(TControlPreseleccion::LBPosiblesConceptos)),
+      conceptos_(dialogo.LBConceptos, Marca(TControlPreseleccion::LBConceptos)),
+      posiblesOtorgantes_(dialogo.LBPosiblesOtorgantes, Marca(TControlPreseleccion::LBPosiblesOtorgantes),
+                          TFListaConceptosPreseleccionados::EnCursiva, PISTA_CURSIVA),
+      otorgantes_(dialogo.LBOtorgantes, Marca(TControlPreseleccion::LBOtorgantes),
+                  TFListaConceptosPreseleccionados::EnCursiva, PISTA_CURSIVA),
+      tipos_(dialogo.dbgTipos, Marca(TControlPreseleccion::dbgTipos)) {
     setObjectName("FListaConceptosPreseleccionados");
     setWindowTitle(QStringLiteral("Lista de Conceptos de la Escritura"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -78,6 +80,7 @@ TVentanaPreseleccion::TVentanaPreseleccion(TFListaConceptosPreseleccionados& dia
                 Enlaza(c.Otorgantes.Posibles, dialogo.LBPosiblesOtorgantes, posiblesOtorgantes_),
                 Enlaza(c.Otorgantes.Validos, dialogo.LBOtorgantes, otorgantes_),
                 Enlaza(c.dbgTipos, dialogo.dbgTipos, tipos_)};
+    c.RepartoColumnas();
     Conecta();
     resize(TamanoInicial(*this));
     Muestra();
@@ -124,6 +127,20 @@ std::optional<TControlPreseleccion> TVentanaPreseleccion::ControlDe(const QObjec
         QAbstractItemView* const vista = controles_.Vista(control);
         if (vista != nullptr && vista->viewport() == objeto) return control;
     }
+    return {};
+}
+
+// No other window of any process has the same.
+QByteArray TVentanaPreseleccion::Marca(TControlPreseleccion control) const {
+    return QByteArray::number(QCoreApplication::applicationPid()) + '/' +
+           QByteArray::number(reinterpret_cast<quintptr>(this)) + '/' +
+           QByteArray::number(static_cast<int>(control));
+}
+
+std::optional<TControlPreseleccion> TVentanaPreseleccion::Origen(const QMimeData& datos) const {
+    const QByteArray marca = datos.data(FORMATO_FILAS);
+    for (const TControlPreseleccion control : CONTROLES_PRESELECCION)
+        if (marca == Marca(control)) return control;
     return {};
 }
 
@@ -223,7 +240,7 @@ void TVentanaPreseleccion::CogeFoco(TControlPreseleccion control, Qt::FocusReaso
 
 // The drop acts once the drag is over, for it may ask a question. The views themselves see none of this.
 bool TVentanaPreseleccion::Arrastra(TControlPreseleccion destino, QDropEvent& suceso) {
-    const auto origen = ControlDe(suceso.source());
+    const auto origen = Origen(*suceso.mimeData());
     if (!origen || !TFListaConceptosPreseleccionados::AdmiteSoltar(*origen, destino)) {
         suceso.ignore();
         return true;

@@ -41,6 +41,10 @@ class TVentanaPreseleccion : public QDialog {
     void ConectaControl(TControlPreseleccion control);
     [[nodiscard]] std::optional<TControlPreseleccion> ControlDe(const QObject* objeto);
 
+    // What marks the drags of this window's control, and the control whose drag it is.
+    [[nodiscard]] QByteArray Marca(TControlPreseleccion control) const;
+    [[nodiscard]] std::optional<TControlPreseleccion> Origen(const QMimeData& datos) const;
+
     void Muestra();
     void MuestraTipos();
     void MuestraXml();

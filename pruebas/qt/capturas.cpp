@@ -160,6 +160,8 @@ void Listas(TCamara& camara, const std::string& sufijo) {
         valida.setCurrentIndex(valida.model()->index(1, 0));
     });
     Lista(camara, "rejilla" + sufijo, [](QWidget& ventana) {
+        ventana.resize(1024, ventana.height());
+        QApplication::processEvents();
         ventana.resize(1024, 600);
         auto& rejilla = *ventana.findChild<QAbstractItemView*>("dbgTipos");
         rejilla.setFocus();
