@@ -86,6 +86,11 @@ TVentanaPreseleccion::TVentanaPreseleccion(TFListaConceptosPreseleccionados& dia
     Muestra();
 }
 
+// The widgets tell things while they are destroyed, one after another.
+TVentanaPreseleccion::~TVentanaPreseleccion() {
+    ocupada_ = true;
+}
+
 void TVentanaPreseleccion::Conecta() {
     std::size_t vistas = 0;
     for (const TControlPreseleccion control : CONTROLES_PRESELECCION) {
@@ -188,10 +193,7 @@ void TVentanaPreseleccion::MuestraFoco() {
 }
 
 void TVentanaPreseleccion::reject() {
-    if (dialogo_->Resultado())
-        QDialog::reject();
-    else
-        Entrega([](auto& dialogo) { dialogo.Pulsa(TControlPreseleccion::BCancelar); });
+    Entrega([](auto& dialogo) { dialogo.Pulsa(TControlPreseleccion::BCancelar); });
 }
 
 // The first activation may show a message: it waits until the window is there.
@@ -203,6 +205,7 @@ void TVentanaPreseleccion::showEvent(QShowEvent* suceso) {
 }
 
 bool TVentanaPreseleccion::eventFilter(QObject* objeto, QEvent* suceso) {
+    if (ocupada_) return false;
     const auto control = ControlDe(objeto);
     if (!control) return false;
     switch (suceso->type()) {

@@ -23,6 +23,9 @@ class TVentanaPreseleccion : public QDialog {
   public:
     // Keeps a reference to the dialog.
     TVentanaPreseleccion(TFListaConceptosPreseleccionados& dialogo, QWidget* padre);
+    ~TVentanaPreseleccion() override;
+    TVentanaPreseleccion(const TVentanaPreseleccion&) = delete;
+    TVentanaPreseleccion& operator=(const TVentanaPreseleccion&) = delete;
 
     // Escape where no control takes it, and the window's cross.
     void reject() override;
