@@ -61,7 +61,7 @@ QString VisorXml::Aviso() const {
 }
 
 void VisorXml::changeEvent(QEvent* evento) {
-    if (evento->type() == QEvent::PaletteChange) coloreado_.PonPaleta(texto_.palette());
+    if (evento->type() == QEvent::PaletteChange) coloreado_.PonPaleta(palette());
     QWidget::changeEvent(evento);
 }
 
