@@ -47,8 +47,8 @@ enum class TControlPreseleccion {
 enum class TPaginaPreseleccion { Informacion, XML };
 
 // The dialog in which the user confirms which concepts and parties are valid. All its rows are copies of its
-// own. A table that cannot be read after it was opened, and a report that no viewer shows, are told in a
-// message box and change nothing else.
+// own. A table that cannot be read after it was opened, a file that cannot be written and a report that no
+// viewer shows are told in a message box and change nothing else.
 class TFListaConceptosPreseleccionados {
   public:
     // `informe`: the report of the analysis; `xml`: what the host stored with the document, may be empty.
@@ -78,7 +78,8 @@ class TFListaConceptosPreseleccionados {
     void RecogeListaConceptosValidos(ListaTextos<TRConcepto>& lista) const;
     void RecogeListaOtorgantesValidos(ListaTextos<TROtorgante>& lista) const;
 
-    // ---- What it holds; a view reads it and sets selections and current rows as the user does
+    // ---- What it holds; a view reads it and sets selections and current rows as the user does. Every row
+    // has its record.
 
     TListaSeleccion<TRConcepto> LBPosiblesConceptos;
     TListaSeleccion<TRConcepto> LBConceptos;
@@ -95,7 +96,8 @@ class TFListaConceptosPreseleccionados {
     [[nodiscard]] TPaginaPreseleccion Pagina() const { return pagina_; }
     // Whether the button of the XML is enabled, which is also whether its page is there.
     [[nodiscard]] bool XMLVisible() const { return xmlVisible_; }
-    // The temporary file with the XML; empty before the first activation and when there is none to show.
+    // The temporary file with the XML, in the encoding that it declares (Utf8DeXml reads it); empty before
+    // the first activation, when there is none to show and when it could not be written.
     [[nodiscard]] const std::filesystem::path& FicheroXML() const { return ficheroXml_; }
     // True for a row that is drawn in italic: the party stands in the stored XML already.
     [[nodiscard]] static bool EnCursiva(const ListaTextos<TROtorgante>::Linea& linea);
@@ -110,14 +112,15 @@ class TFListaConceptosPreseleccionados {
     // The focus went to a control, a page to the front.
     void PonFoco(TControlPreseleccion control);
     void PonPagina(TPaginaPreseleccion pagina);
-    // A button was pressed: any of the controls that are buttons.
+    // A button was pressed: any of the controls that are buttons. It has the focus then; one that is disabled
+    // does nothing.
     void Pulsa(TControlPreseleccion boton);
     // A key in a control; true when the dialog took it and the control must not see it. `desplegado`: a menu
     // or a list of the control is open.
     bool Tecla(TControlPreseleccion control, TTecla tecla, bool desplegado = false);
     // The text of the search box changed.
     void eBuscaChange(std::string texto);
-    // A click on a column's title.
+    // A click on a column's title. The focus stays where it was when the table cannot be read.
     void ClicTitulo(TColumnaTipos columna);
     // Whether what is dragged from one control may be dropped on another, and the drop.
     [[nodiscard]] static bool AdmiteSoltar(TControlPreseleccion origen, TControlPreseleccion destino);
@@ -126,6 +129,20 @@ class TFListaConceptosPreseleccionados {
     void VerOtorgante(TControlPreseleccion lista);
 
   private:
+    void AnadeConceptos();
+    void AnadeConceptosBD();
+    void AnadeOtorgantes();
+    void EliminaConceptos();
+    void EliminaConceptosBD();
+    void EliminaOtorgantes();
+    [[nodiscard]] bool BuscaTipo() const;
+    bool TeclaBusca(TTecla tecla);
+    bool TeclaLista(TControlPreseleccion lista, TTecla tecla);
+    void BuscaEnTipos();
+    [[nodiscard]] bool EscribeXML();
+    void MuestraXML();
+    void MuestraPizarra();
+
     std::string informe_;
     std::string xml_;
     std::string eBusca_;
