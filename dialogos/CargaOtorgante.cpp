@@ -1,6 +1,6 @@
 #include <algorithm>
+#include <initializer_list>
 #include <memory>
-#include <span>
 
 #include "dialogos/InformacionOtorgante.h"
 #include "plataforma/Ansi.h"
@@ -195,8 +195,11 @@ void TFInformacionOtorgante::ActualizaOtorgante() {
         const bool ultima = inti.Elegido + 1 == static_cast<int>(inti.Elementos.size());
         o.IntervencionINTI = ultima ? SIN_INTERVENCION_INTI : inti.Elegido;
     }
-    if (const std::string& fecha = Control(MEFecha_Naci).Texto; fecha != TextoFecha(o.FechaNacimiento))
-        o.FechaNacimiento = VerificaFecha(fecha, hoy_);
+    if (FechaTocada()) o.FechaNacimiento = VerificaFecha(Control(MEFecha_Naci).Texto, hoy_);
+}
+
+bool TFInformacionOtorgante::FechaTocada() const {
+    return Control(MEFecha_Naci).Texto != TextoFecha(otorgante_->FechaNacimiento);
 }
 
 void TFInformacionOtorgante::TomaMunicipio(const TMunicipio& municipio) {

@@ -141,7 +141,7 @@ void TFInformacionOtorgante::Pulsa(TControlDatos boton) {
 
 // A wrong date can have been left by way of "&Cancelar", which checks nothing.
 void TFInformacionOtorgante::Acepta() {
-    if (!CompruebaFecha()) {
+    if (FechaTocada() && !CompruebaFecha()) {
         PonFoco(MEFecha_Naci);
         return;
     }

@@ -83,7 +83,7 @@ struct TEstadoControl {
     std::vector<std::string> Elementos;  // of a list
     int Elegido = -1;                    // position of the selected item of a list, from 0; -1 none
     bool Marcado = false;                // of the check box
-    bool Habilitado = true;
+    bool Habilitado = true;              // its label likewise
     bool Visible = true;
     bool ConFoco = false;  // the mark of the control that has the focus
 };
@@ -154,6 +154,7 @@ class TFInformacionOtorgante {
 
     void CargaOtorgante();
     void ActualizaOtorgante();
+    [[nodiscard]] bool FechaTocada() const;
 
     [[nodiscard]] bool PuedeTenerFoco(TControlDatos control) const;
     void Selecciona(TControlDatos lista, int posicion);

@@ -68,6 +68,7 @@ void TSelectorMunicipios::Carga() {
         if (std::string forma = Pliega(tabla->Texto("NOM_MUNICI"));
             !forma.empty() && forma != fila.Nombres[0])
             fila.Nombres.push_back(std::move(forma));
+        fila.Provincia = Pliega(municipio.Provincia);
         fila.Municipio = std::move(municipio);
     }
     for (auto& [orden, fila] : filas) todos_.push_back(std::move(fila));
@@ -75,7 +76,7 @@ void TSelectorMunicipios::Carga() {
 
 bool TSelectorMunicipios::TFilaMunicipio::Contiene(std::string_view palabra) const {
     const auto esta = [&](std::string_view texto) { return texto.find(palabra) != std::string_view::npos; };
-    return std::any_of(Nombres.begin(), Nombres.end(), esta) || esta(Pliega(Municipio.Provincia)) ||
+    return std::any_of(Nombres.begin(), Nombres.end(), esta) || esta(Provincia) ||
            esta(Municipio.CodPostal) || esta(Municipio.CodINE);
 }
 

@@ -51,6 +51,7 @@ class TSelectorMunicipios {
     struct TFilaMunicipio {
         TMunicipio Municipio;
         std::vector<std::string> Nombres;  // its name and the other forms of it, folded
+        std::string Provincia;             // folded
 
         [[nodiscard]] bool Contiene(std::string_view palabra) const;
         [[nodiscard]] bool Empieza(std::string_view principio) const;

@@ -38,7 +38,10 @@ class DialogoNotario : public QDialog {
         connect(&lista_, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
     }
 
-    [[nodiscard]] int Seleccionada() const { return lista_.currentRow(); }
+    // Of the list without a selection some row is the current one all the same.
+    [[nodiscard]] int Seleccionada() const {
+        return lista_.selectedItems().isEmpty() ? -1 : lista_.currentRow();
+    }
 
   private:
     QListWidget& lista_;

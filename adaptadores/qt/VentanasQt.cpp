@@ -7,7 +7,10 @@ namespace analizador {
 
 QWidget* VentanaPadre(const TComponente* propietario) {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-    if (QWidget* activa = QApplication::activeWindow()) return activa;
+    if (QWidget* activa = QApplication::activeWindow()) {
+        const bool admiteFoco = !activa->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus);
+        return admiteFoco ? activa : activa->parentWidget();
+    }
     const auto* anfitrion = dynamic_cast<const TVentanaAnfitrion*>(propietario);
     return anfitrion != nullptr ? anfitrion->Ventana() : nullptr;
 }

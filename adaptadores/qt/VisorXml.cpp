@@ -8,6 +8,7 @@
 
 #include "adaptadores/qt/HijoQt.h"
 #include "adaptadores/qt/XmlParaVer.h"
+#include "dialogos/CodificacionXml.h"
 
 namespace analizador {
 
@@ -41,7 +42,7 @@ void VisorXml::MuestraTexto(const QString& xml) {
 void VisorXml::MuestraFichero(const std::filesystem::path& fichero) {
     QFile abierto(fichero);
     if (abierto.open(QIODevice::ReadOnly))
-        MuestraTexto(TextoDeXml(abierto.readAll()));
+        MuestraTexto(QString::fromStdString(Utf8DeXml(abierto.readAll().toStdString())));
     else
         Pon({}, QStringLiteral("No se puede leer el fichero %1.").arg(abierto.fileName()));
 }
@@ -61,7 +62,7 @@ QString VisorXml::Aviso() const {
 }
 
 void VisorXml::changeEvent(QEvent* evento) {
-    if (evento->type() == QEvent::PaletteChange) coloreado_.PonPaleta(texto_.palette());
+    if (evento->type() == QEvent::PaletteChange) coloreado_.PonPaleta(palette());
     QWidget::changeEvent(evento);
 }
 

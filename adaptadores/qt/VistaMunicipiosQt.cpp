@@ -102,7 +102,8 @@ class DialogoMunicipios : public QDialog {
 
     // True for a key that moves the row.
     bool Mueve(int tecla) {
-        const int pagina = std::max(1, tabla_.viewport()->height() / tabla_.rowHeight(0) - 1);
+        const int pagina =
+            std::max(1, tabla_.viewport()->height() / tabla_.verticalHeader()->defaultSectionSize() - 1);
         switch (tecla) {
             case Qt::Key_Up:
                 return MueveFilas(-1);

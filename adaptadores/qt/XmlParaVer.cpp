@@ -1,14 +1,8 @@
 #include "adaptadores/qt/XmlParaVer.h"
 
 #include <QRegularExpression>
-#include <QStringDecoder>
 #include <QXmlStreamReader>
 #include <algorithm>
-#include <string>
-#include <string_view>
-#include <vector>
-
-#include "adaptadores/qt/TextoQt.h"
 
 namespace analizador {
 
@@ -138,13 +132,6 @@ class TSangrador {
     bool recienAbierto_ = false;
 };
 
-// The encoding that the first bytes declare; empty when they declare none.
-std::string CodificacionDeclarada(const QByteArray& bytes) {
-    static const QRegularExpression DECLARACION(
-        QStringLiteral("^<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([A-Za-z0-9._-]+)[\"']"));
-    return DECLARACION.match(QString::fromLatin1(bytes.left(256))).captured(1).toLower().toStdString();
-}
-
 }  // namespace
 
 TXmlParaVer XmlParaVer(const QString& xml) {
@@ -159,17 +146,7 @@ TXmlParaVer XmlParaVer(const QString& xml) {
     if (!lector.hasError()) return {tapadas.Destapa(sangrador.Texto()), {}};
     return {xml, QStringLiteral("El XML no está bien formado: línea %1, columna %2.")
                      .arg(lector.lineNumber())
-                     .arg(lector.columnNumber() + 1)};
-}
-
-QString TextoDeXml(const QByteArray& bytes) {
-    const std::string declarada = CodificacionDeclarada(bytes);
-    const std::string_view crudo(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    if (declarada == "windows-1252" || declarada == "iso-8859-1") return QtDeAnsi(crudo);
-    const auto marca = QStringConverter::encodingForData(bytes);
-    QStringDecoder decodificador(marca.value_or(QStringConverter::Utf8));
-    const QString texto = decodificador(bytes);
-    return decodificador.hasError() ? QtDeAnsi(crudo) : texto;
+                     .arg(std::max<qint64>(1, lector.columnNumber()))};
 }
 
 }  // namespace analizador

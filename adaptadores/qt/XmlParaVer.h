@@ -2,7 +2,6 @@
 
 // An XML text made ready to be read by people.
 
-#include <QByteArray>
 #include <QString>
 
 namespace analizador {
@@ -14,9 +13,5 @@ struct TXmlParaVer {
 
 // Nothing is fetched and no entity replaced: references stand as they are written.
 [[nodiscard]] TXmlParaVer XmlParaVer(const QString& xml);
-
-// The text of an XML file's bytes, by its byte-order mark, the encoding it declares, or UTF-8; Windows-1252
-// when the bytes are not of that encoding.
-[[nodiscard]] QString TextoDeXml(const QByteArray& bytes);
 
 }  // namespace analizador
