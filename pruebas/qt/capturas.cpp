@@ -3,98 +3,29 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QImage>
 #include <QLineEdit>
-#include <QPalette>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTabWidget>
-#include <QTimer>
-#include <QWidget>
 #include <cstdio>
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include "adaptadores/dbase/ProveedorDbase.h"
 #include "adaptadores/qt/MensajesQt.h"
 #include "adaptadores/qt/PantallaQt.h"
+#include "adaptadores/qt/SeleccionaNotarioQt.h"
+#include "adaptadores/qt/VistaInformacionQt.h"
+#include "adaptadores/qt/VistaMunicipiosQt.h"
 #include "adaptadores/qt/VistaPreseleccionQt.h"
 #include "plataforma/Ansi.h"
 #include "pruebas/comun/ConfigDePrueba.h"
+#include "pruebas/qt/Camara.h"
 
 namespace {
 
 using namespace analizador;
-
-QPalette PaletaOscura() {
-    const QColor fondo(45, 45, 48);
-    const QColor letra(230, 230, 230);
-    QPalette paleta(fondo, fondo);
-    paleta.setColor(QPalette::Base, QColor(30, 30, 30));
-    paleta.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    for (const auto papel : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
-                             QPalette::HighlightedText, QPalette::ToolTipText})
-        paleta.setColor(papel, letra);
-    for (const auto papel : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        paleta.setColor(QPalette::Disabled, papel, QColor(127, 127, 127));
-    paleta.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
-    return paleta;
-}
-
-bool TieneAlgo(const QImage& imagen) {
-    if (imagen.isNull()) return false;
-    const QRgb primero = imagen.pixel(0, 0);
-    for (int y = 0; y < imagen.height(); ++y)
-        for (int x = 0; x < imagen.width(); ++x)
-            if (imagen.pixel(x, y) != primero) return true;
-    return false;
-}
-
-class TCamara {
-  public:
-    explicit TCamara(std::filesystem::path carpeta) : carpeta_(std::move(carpeta)) {
-        std::filesystem::create_directories(carpeta_);
-    }
-
-    void Guarda(const std::string& nombre, QWidget& ventana) {
-        const QImage imagen = ventana.grab().toImage();
-        const auto fichero = carpeta_ / (nombre + ".png");
-        const bool guardada = imagen.save(QString::fromStdString(fichero.string()));
-        if (guardada && TieneAlgo(imagen)) return;
-        std::fprintf(stderr, "%s: the picture is empty\n", fichero.c_str());
-        fallo_ = true;
-    }
-
-    // Runs what shows a modal window, takes its picture once `prepara` has put it in its state, and closes
-    // it.
-    void GuardaModal(
-        const std::string& nombre, const std::function<void()>& muestra,
-        const std::function<void(QWidget&)>& prepara = [](QWidget&) {}) {
-        bool tomada = false;
-        QTimer reloj;
-        QObject::connect(&reloj, &QTimer::timeout, [&] {
-            QWidget* const ventana = QApplication::activeModalWidget();
-            if (ventana == nullptr || std::exchange(tomada, true)) return;
-            prepara(*ventana);
-            QApplication::processEvents();
-            Guarda(nombre, *ventana);
-            ventana->close();
-        });
-        reloj.start(20);
-        muestra();
-        if (!tomada) fallo_ = true;
-    }
-
-    [[nodiscard]] bool Fallo() const { return fallo_; }
-
-  private:
-    std::filesystem::path carpeta_;
-    bool fallo_ = false;
-};
 
 TROtorgante Otorgante(std::string_view apellidos, std::string_view nombre, std::string_view documento) {
     TROtorgante otorgante;
@@ -176,7 +107,35 @@ void Listas(TCamara& camara, const std::string& sufijo) {
           [](QWidget& ventana) { ventana.findChild<QTabWidget*>()->setCurrentIndex(1); });
 }
 
-void Avisos(TCamara& camara, const std::string& sufijo) {
+// The other windows, over the preselection dialog or alone.
+void Datos(TCamara& camara, const std::string& sufijo) {
+    auto otorgante = Otorgante("MUÑOZ CASTAÑO"_ansi, "MARIA DEL CARMEN", "00000024R");
+    otorgante.TipoVia = "CL";
+    otorgante.CodPostal = "03180";
+    otorgante.CodINE = "03133";
+    otorgante.CodPais = 108;
+    otorgante.Pais = "ESPAÑA"_ansi;
+    otorgante.Conyuge = "MANRIQUE OLMEDO, JUAN ANTONIO";
+    otorgante.FechaNacimiento = TFecha{std::chrono::year(1971), std::chrono::month(5), std::chrono::day(3)};
+    TFInformacionOtorgante dialogo(otorgante);
+    TVistaInformacionQt vista;
+    camara.GuardaModal("datos" + sufijo, [&] { vista.MuestraModal(dialogo, nullptr); });
+}
+
+void Municipios(TCamara& camara, const std::string& sufijo) {
+    TSelectorMunicipios selector({"03180", "03133", "TORREVIEJA"});
+    TVistaMunicipiosQt vista;
+    camara.GuardaModal("municipios" + sufijo, [&] { (void)vista.MuestraModal(selector); });
+}
+
+void Notario(TCamara& camara, const std::string& sufijo) {
+    const auto dialogo = TSeleccionaNotarioQt().Crea();
+    dialogo->PonTitulo("Seleccione el notario de la escritura");
+    dialogo->Selecciona(1);
+    camara.GuardaModal("notario" + sufijo, [&] { dialogo->MuestraModal(); });
+}
+
+void Pregunta(TCamara& camara, const std::string& sufijo) {
     TMensajesQt mensajes;
     camara.GuardaModal("pregunta" + sufijo, [&] {
         (void)mensajes.Pregunta(
@@ -185,9 +144,15 @@ void Avisos(TCamara& camara, const std::string& sufijo) {
     });
 }
 
+void Progreso(TCamara& camara, const std::string& sufijo) {
+    TPantallaQt pantalla;
+    const auto mensaje = pantalla.Abre("Analizando el documento, espere un momento.", nullptr);
+    for (QWidget* ventana : QApplication::topLevelWidgets())
+        if (ventana->isVisible()) camara.Guarda("progreso" + sufijo, *ventana);
+}
+
 void Todas(TCamara& camara, const std::string& sufijo) {
-    Listas(camara, sufijo);
-    Avisos(camara, sufijo);
+    for (const auto& toma : {Listas, Datos, Municipios, Notario, Pregunta, Progreso}) toma(camara, sufijo);
 }
 
 }  // namespace
@@ -202,8 +167,9 @@ int main(int argc, char** argv) {
     TProveedorDbase tablas(std::filesystem::path{CARPETA_TABLAS});
     const InstalaTablas guardaTablas(tablas);
     TConfigDePrueba configuracion;
+    configuracion.Notarios = {"LUIS SANZ ROCA", std::string("EVA MUÑOZ CASTAÑO"_ansi), "ANA GIL PEREZ"};
     const InstalaConfig guardaConfig(configuracion);
-    TCamara camara(argv[1]);
+    TCamara camara{argv[1]};
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     Todas(camara, "_claro");
     QApplication::setPalette(PaletaOscura());
