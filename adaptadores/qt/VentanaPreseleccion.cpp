@@ -196,12 +196,18 @@ void TVentanaPreseleccion::reject() {
     Entrega([](auto& dialogo) { dialogo.Pulsa(TControlPreseleccion::BCancelar); });
 }
 
-// The first activation may show a message: it waits until the window is there.
+// The first activation may show a message: it waits until the window is there, and so do the views, whose
+// current rows may have been out of sight in a window of another size.
 void TVentanaPreseleccion::showEvent(QShowEvent* suceso) {
     QDialog::showEvent(suceso);
     if (std::exchange(mostrada_, true)) return;
-    QMetaObject::invokeMethod(
-        this, [this] { Entrega([](auto& dialogo) { dialogo.FormActivate(); }); }, Qt::QueuedConnection);
+    const auto activa = [this] {
+        for (const TControlPreseleccion control : CONTROLES_PRESELECCION)
+            if (QAbstractItemView* vista = controles_.Vista(control); vista != nullptr)
+                vista->scrollTo(vista->currentIndex());
+        Entrega([](auto& dialogo) { dialogo.FormActivate(); });
+    };
+    QMetaObject::invokeMethod(this, activa, Qt::QueuedConnection);
 }
 
 bool TVentanaPreseleccion::eventFilter(QObject* objeto, QEvent* suceso) {

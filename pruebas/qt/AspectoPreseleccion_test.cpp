@@ -98,11 +98,15 @@ TEST_P(AspectoPreseleccion, ThousandsOfRows) {
         const std::string nombre = "TIPO " + std::to_string(10000 + i);
         tipos.Filas.push_back({nombre, std::to_string(i + 1), "", "F", "", nombre});
     }
+    tipos.Filas.push_back({"Venta de finca", "10", "", "F", "", "VENTA"});  // the last in the order of TIPO
     escena_.Tablas.Pon("TIPOS.DBF", tipos);
     std::vector<TROtorgante> otorgantes;
     for (int i = 0; i < OTORGANTES; ++i) otorgantes.push_back(Persona("ANA", std::to_string(1000 + i)));
     escena_.Abre(otorgantes);
-    EXPECT_EQ(escena_.Filas("dbgTipos").size(), TIPOS);
+    EXPECT_EQ(escena_.Filas("dbgTipos").size(), TIPOS + 1);
+    auto& rejilla = escena_.Vista("dbgTipos");
+    EXPECT_EQ(rejilla.currentIndex().row(), TIPOS);
+    EXPECT_TRUE(rejilla.viewport()->rect().contains(rejilla.visualRect(rejilla.currentIndex())));
 
     escena_.Control("LBPosiblesOtorgantes").setFocus();
     escena_.Tecla(Qt::Key_A, Qt::ControlModifier);
@@ -114,12 +118,12 @@ TEST_P(AspectoPreseleccion, ThousandsOfRows) {
     escena_.Control("dbgTipos").setFocus();
     escena_.Tecla(Qt::Key_A, Qt::ControlModifier);
     escena_.Tecla(Qt::Key_Insert);
-    EXPECT_EQ(escena_.Filas("LBConceptos").size(), TIPOS);
+    EXPECT_EQ(escena_.Filas("LBConceptos").size(), TIPOS + 1);
 
     escena_.Control("LBConceptos").setFocus();
     escena_.Tecla(Qt::Key_A, Qt::ControlModifier);
     escena_.Tecla(Qt::Key_Delete);
-    EXPECT_EQ(escena_.Filas("LBPosiblesConceptos").size(), TIPOS + 2);  // after the two that were found
+    EXPECT_EQ(escena_.Filas("LBPosiblesConceptos").size(), TIPOS + 3);  // after the two that were found
     EXPECT_TRUE(escena_.Filas("LBConceptos").isEmpty());
 }
 
