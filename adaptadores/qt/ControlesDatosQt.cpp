@@ -132,6 +132,7 @@ void ControlesDatosQt::Crea(const TDescripcionControl& descripcion, const TEstad
     parte.Control = &control;
     if (LlevaRotulo(descripcion)) {
         parte.Rotulo = &HijoDe<QLabel>(&padre, QtDeAnsi(descripcion.Rotulo));
+        parte.Rotulo->setObjectName(QStringLiteral("ROTULO_") + control.objectName());
         parte.Rotulo->setBuddy(&control);
     }
 }
