@@ -196,7 +196,8 @@ TEST_F(AspectoDatosQt, TheControlThatHasTheFocusIsYellowWithDarkLetters) {
         QApplication::setPalette(paleta);
         Abre();
         std::map<std::string, QColor> fondos;
-        for (const char* nombre : {"ENombre", "CBSexo", "CBPais", "CBRESIDENTE", "BLISTA"}) {
+        for (const char* nombre :
+             {"ENombre", "CBSexo", "CBPais", "CBRESIDENTE", "BLISTA", "CBIntervencion_INTI"}) {
             auto& control = Control(nombre);
             control.setFocus(Qt::OtherFocusReason);
             QTest::qWait(1);
