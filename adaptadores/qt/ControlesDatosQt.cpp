@@ -29,19 +29,19 @@ struct TSitio {
 
 constexpr std::array SITIOS = {
     TSitio{CBSexo, 0, 1},
-    TSitio{ENombre, 0, 3, 3},
-    TSitio{EApellidos, 1, 1, 5},
+    TSitio{ENombre, 0, 3},
+    TSitio{EApellidos, 1, 1, 3},
     TSitio{CBTipoDocumento, 2, 1},
-    TSitio{ENumDocumento, 2, 2, 4},
-    TSitio{CBEstadoCivil, 0, 1, 2},
-    TSitio{CBRegimen, 0, 4, 2},
-    TSitio{EConyuge, 1, 1, 5},
+    TSitio{ENumDocumento, 2, 2, 2},
+    TSitio{CBEstadoCivil, 0, 1},
+    TSitio{CBRegimen, 0, 3, 2},
+    TSitio{EConyuge, 1, 1, 4},
     TSitio{CBPais_Naci, 2, 1},
     TSitio{ELugar_Naci, 2, 2, 2},
-    TSitio{CBProv_Naci, 2, 4, 2},
+    TSitio{CBProv_Naci, 2, 4},
     TSitio{MEFecha_Naci, 3, 1},
-    TSitio{EPadre, 4, 1, 2},
-    TSitio{EMadre, 4, 4, 2},
+    TSitio{EPadre, 4, 1},
+    TSitio{EMadre, 4, 3, 2},
     TSitio{CBTipoVia, 0, 1},
     TSitio{EDOMICILIO, 0, 2, 2},
     TSitio{ENUMERO, 0, 5},
@@ -58,10 +58,20 @@ constexpr std::array SITIOS = {
     TSitio{CBIntervencion_INTI, 1, 1, 1, true},
 };
 
-constexpr std::array GRUPOS = {TGrupoDatos::Identificacion, TGrupoDatos::Situacion, TGrupoDatos::Domicilio,
-                               TGrupoDatos::Intervencion};
-constexpr int LETRAS_LISTA = 14;  // that a list shows at least
-constexpr int LETRAS_CAJA = 12;   // that a box shows at least, when so many can be typed
+// A group and how the columns of its grid share the room that is left.
+struct TRejilla {
+    TGrupoDatos Grupo;
+    std::array<int, 6> Reparto;
+};
+
+constexpr std::array REJILLAS = {
+    TRejilla{TGrupoDatos::Identificacion, {0, 1, 0, 2}},
+    TRejilla{TGrupoDatos::Situacion, {0, 3, 0, 2, 2}},
+    TRejilla{TGrupoDatos::Domicilio, {0, 2, 0, 3, 0, 0}},
+    TRejilla{TGrupoDatos::Intervencion, {1, 1}},
+};
+constexpr int LETRAS_LISTA = 10;  // that a list shows at least
+constexpr int LETRAS_CAJA = 10;   // that a box shows at least, when so many can be typed
 
 const TDescripcionControl& Descripcion(TControlDatos control) {
     return ControlesDatos()[static_cast<std::size_t>(control)];
@@ -113,6 +123,13 @@ bool LlevaRotulo(const TDescripcionControl& descripcion) {
            descripcion.Clase != TClaseControl::Boton;
 }
 
+void Coloca(const TSitio& sitio, QWidget* control, QLabel* rotulo, QGridLayout& rejilla) {
+    rejilla.addWidget(control, sitio.Fila, sitio.Columna, 1, sitio.Ancho);
+    if (rotulo == nullptr) return;
+    const int fila = sitio.Fila - (sitio.RotuloEncima ? 1 : 0);
+    rejilla.addWidget(rotulo, fila, sitio.Columna - (sitio.RotuloEncima ? 0 : 1));
+}
+
 }  // namespace
 
 ControlesDatosQt::ControlesDatosQt(const TFInformacionOtorgante& dialogo, QWidget& contenido,
@@ -132,6 +149,7 @@ void ControlesDatosQt::Crea(const TDescripcionControl& descripcion, const TEstad
     parte.Control = &control;
     if (LlevaRotulo(descripcion)) {
         parte.Rotulo = &HijoDe<QLabel>(&padre, QtDeAnsi(descripcion.Rotulo));
+        parte.Rotulo->setObjectName(QStringLiteral("ROTULO_") + control.objectName());
         parte.Rotulo->setBuddy(&control);
     }
 }
@@ -139,19 +157,14 @@ void ControlesDatosQt::Crea(const TDescripcionControl& descripcion, const TEstad
 void ControlesDatosQt::Dispon(QWidget& contenido, QWidget& barra) {
     auto& columna = HijoDe<QVBoxLayout>(&contenido);
     columna.setContentsMargins(0, 0, 0, 0);
-    for (const TGrupoDatos grupo : GRUPOS) {
-        auto& caja = HijoDe<QGroupBox>(&contenido, QtDeAnsi(TituloGrupo(grupo)));
-        auto& rejilla = HijoDe<QGridLayout>(&caja);
-        for (const TSitio& sitio : SITIOS) {
-            if (Descripcion(sitio.Control).Grupo != grupo) continue;
-            const TParte& parte = Parte(sitio.Control);
-            rejilla.addWidget(parte.Control, sitio.Fila, sitio.Columna, 1, sitio.Ancho);
-            if (parte.Rotulo == nullptr) continue;
-            if (sitio.RotuloEncima)
-                rejilla.addWidget(parte.Rotulo, sitio.Fila - 1, sitio.Columna);
-            else
-                rejilla.addWidget(parte.Rotulo, sitio.Fila, sitio.Columna - 1);
-        }
+    for (const auto& rejilla : REJILLAS) {
+        auto& caja = HijoDe<QGroupBox>(&contenido, QtDeAnsi(TituloGrupo(rejilla.Grupo)));
+        auto& sitios = HijoDe<QGridLayout>(&caja);
+        for (std::size_t i = 0; i < rejilla.Reparto.size(); ++i)
+            sitios.setColumnStretch(static_cast<int>(i), rejilla.Reparto[i]);
+        for (const TSitio& sitio : SITIOS)
+            if (Descripcion(sitio.Control).Grupo == rejilla.Grupo)
+                Coloca(sitio, Parte(sitio.Control).Control, Parte(sitio.Control).Rotulo, sitios);
         columna.addWidget(&caja);
     }
     columna.addStretch();

@@ -6,6 +6,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -70,6 +71,16 @@ DialogoDatos::DialogoDatos(TFInformacionOtorgante& dialogo, QWidget* padre)
 
 // ---- What the user does
 
+template <class Accion>
+void DialogoDatos::Haz(Accion&& accion) {
+    if (ocupado_) return;
+    {
+        const QScopedValueRollback<bool> guarda(ocupado_, true);
+        accion();
+    }
+    Sincroniza();
+}
+
 void DialogoDatos::Conecta(const TDescripcionControl& descripcion) {
     const TControlDatos control = descripcion.Control;
     controles_.Control(control).installEventFilter(this);
@@ -79,20 +90,14 @@ void DialogoDatos::Conecta(const TDescripcionControl& descripcion) {
                 [this, control](const QString& nuevo) { Tecleado(control, nuevo); });
     }
     if (auto* lista = controles_.Lista(control))
-        connect(lista, &QComboBox::activated, this, [this, control](int posicion) {
-            dialogo_.Elige(control, posicion);
-            Sincroniza();
-        });
+        connect(lista, &QComboBox::activated, this,
+                [this, control](int posicion) { Haz([&] { dialogo_.Elige(control, posicion); }); });
     if (auto* marca = qobject_cast<QCheckBox*>(&controles_.Control(control)))
-        connect(marca, &QCheckBox::clicked, this, [this](bool marcado) {
-            dialogo_.Marca(marcado);
-            Sincroniza();
-        });
+        connect(marca, &QCheckBox::clicked, this,
+                [this](bool marcado) { Haz([&] { dialogo_.Marca(marcado); }); });
     if (auto* boton = qobject_cast<QPushButton*>(&controles_.Control(control)))
-        connect(boton, &QPushButton::clicked, this, [this, control] {
-            dialogo_.Pulsa(control);
-            Sincroniza();
-        });
+        connect(boton, &QPushButton::clicked, this,
+                [this, control] { Haz([&] { dialogo_.Pulsa(control); }); });
 }
 
 void DialogoDatos::Tecleado(TControlDatos control, const QString& nuevo) {
@@ -105,8 +110,7 @@ void DialogoDatos::Tecleado(TControlDatos control, const QString& nuevo) {
         caja.setText(texto);
         caja.setCursorPosition(static_cast<int>(ajustado.Cursor));
     }
-    dialogo_.Escribe(control, ajustado.Texto);
-    Sincroniza();
+    Haz([&] { dialogo_.Escribe(control, ajustado.Texto); });
 }
 
 bool DialogoDatos::Tecla(TControlDatos control, const QKeyEvent& tecla) {
@@ -114,9 +118,9 @@ bool DialogoDatos::Tecla(TControlDatos control, const QKeyEvent& tecla) {
     if (!suya) return false;
     auto* const lista = controles_.Lista(control);
     const bool abierta = lista != nullptr && lista->view()->isVisible();
-    const auto respuesta = dialogo_.Tecla(control, *suya, abierta);
+    auto respuesta = TFInformacionOtorgante::TRespuesta::Tomada;
+    Haz([&] { respuesta = dialogo_.Tecla(control, *suya, abierta); });
     if (respuesta == TFInformacionOtorgante::TRespuesta::AbreLista) lista->showPopup();
-    Sincroniza();
     return respuesta != TFInformacionOtorgante::TRespuesta::NoEsMia;
 }
 
@@ -161,8 +165,8 @@ bool DialogoDatos::eventFilter(QObject* objeto, QEvent* evento) {
 // ---- Focus
 
 bool DialogoDatos::PonFoco(TControlDatos control) {
-    const bool puesto = dialogo_.PonFoco(control);
-    Sincroniza();
+    bool puesto = false;
+    Haz([&] { puesto = dialogo_.PonFoco(control); });
     return puesto;
 }
 
@@ -192,8 +196,7 @@ void DialogoDatos::Sincroniza() {
 // ---- Window
 
 void DialogoDatos::reject() {
-    dialogo_.Cierra();
-    Sincroniza();
+    Haz([&] { dialogo_.Cierra(); });
 }
 
 void DialogoDatos::PonTamano() {

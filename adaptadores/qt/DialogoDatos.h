@@ -24,6 +24,10 @@ class DialogoDatos : public QDialog {
     void changeEvent(QEvent* evento) override;
 
   private:
+    // Hands something that the user did over and shows what comes of it. Nothing while that is going on: it
+    // may show another window, whose loop runs what this one has still pending.
+    template <class Accion>
+    void Haz(Accion&& accion);
     void Conecta(const TDescripcionControl& descripcion);
     void Tecleado(TControlDatos control, const QString& nuevo);
     bool Tecla(TControlDatos control, const QKeyEvent& tecla);
@@ -39,6 +43,7 @@ class DialogoDatos : public QDialog {
     QWidget& contenido_;
     QWidget& barra_;
     ControlesDatosQt controles_;
+    bool ocupado_ = false;
 };
 
 }  // namespace analizador

@@ -2,7 +2,6 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
-#include <QLineEdit>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
@@ -23,10 +22,7 @@ ListaDesplegable::ListaDesplegable(bool editable, int filasVisibles, QWidget* pa
         setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
         setMaxVisibleItems(filasVisibles);
     }
-    if (!editable) return;
-    setCompleter(nullptr);
-    // Qt chooses the item that equals the text when the box is left; only the user chooses.
-    QObject::disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+    if (editable) setCompleter(nullptr);
 }
 
 void ListaDesplegable::showPopup() {

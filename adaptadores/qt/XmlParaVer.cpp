@@ -98,8 +98,9 @@ class TSangrador {
     void Abre(const QXmlStreamReader& lector) {
         QString etiqueta = '<' + lector.qualifiedName().toString();
         for (const auto& atributo : lector.attributes())
-            etiqueta += ' ' + atributo.qualifiedName().toString() + "=\"" +
-                        atributo.value().toString().replace('"', QLatin1String("&quot;")) + '"';
+            if (!atributo.isDefault())
+                etiqueta += ' ' + atributo.qualifiedName().toString() + "=\"" +
+                            atributo.value().toString().replace('"', QLatin1String("&quot;")) + '"';
         Linea(etiqueta + '>');
         ++nivel_;
         recienAbierto_ = true;

@@ -44,6 +44,9 @@ TEST(XmlParaVer, EntitiesThatWouldGrowWithoutEndOrFetchAreLeftAlone) {
     EXPECT_EQ(XmlParaVer(bomba).Texto, bomba);
     EXPECT_EQ(XmlParaVer(bomba).Aviso, QString());
 
+    const QString deOficio = "<!DOCTYPE a [<!ATTLIST a x CDATA \"de oficio\">]>\n<a/>";
+    EXPECT_EQ(XmlParaVer(deOficio).Texto, deOficio);
+
     const QString ajena = "<!DOCTYPE a [<!ENTITY f SYSTEM \"file:///etc/passwd\">]>\n<a>&f;</a>";
     EXPECT_EQ(XmlParaVer(ajena).Texto, ajena);
 }
