@@ -15,7 +15,8 @@ set(NORMAS
   "adaptadores/docx|adaptadores/docx plataforma modelo dialogos"
   "adaptadores/dbase|adaptadores/dbase plataforma modelo dialogos"
   "adaptadores/ini|adaptadores/ini plataforma modelo dialogos"
-  "adaptadores/consola|adaptadores/consola plataforma modelo dialogos")
+  "adaptadores/consola|adaptadores/consola plataforma modelo dialogos"
+  "adaptadores/qt|adaptadores/qt plataforma modelo dialogos")
 set(NUCLEO plataforma rutinas modelo dialogos analizador)
 set(CON_SISTEMA plataforma/Sistema_posix.cpp)
 
