@@ -63,6 +63,10 @@ class TListaSeleccion {
         if (donde < Cuenta()) seleccionadas_[donde] = seleccionada;
     }
     void SeleccionaTodo() { seleccionadas_.assign(Cuenta(), true); }
+    // Selects the current line where none is selected.
+    void SeleccionaAlMenosActual() {
+        if (actual_ && Seleccionadas().empty()) Selecciona(*actual_, true);
+    }
     void SeleccionaNada() { seleccionadas_.assign(Cuenta(), false); }
     [[nodiscard]] bool Seleccionada(std::size_t donde) const { return seleccionadas_[donde]; }
     [[nodiscard]] std::vector<std::size_t> Seleccionadas() const {

@@ -99,15 +99,28 @@ bool TFListaConceptosPreseleccionados::TeclaBusca(TTecla tecla) {
     }
 }
 
+// A key acts on the current row where none is selected, so that row after row goes with the same key.
 bool TFListaConceptosPreseleccionados::TeclaLista(TControlPreseleccion lista, TTecla tecla) {
     const bool anade = tecla == TTecla::Intro || tecla == TTecla::Insertar;
     const bool elimina = tecla == TTecla::Suprimir;
-    if (anade && lista == TControl::LBPosiblesConceptos) return AnadeConceptos(), true;
-    if (anade && lista == TControl::LBPosiblesOtorgantes) return AnadeOtorgantes(), true;
-    if (anade && lista == TControl::dbgTipos) return AnadeConceptosBD(), true;
-    if (elimina && lista == TControl::LBConceptos) return EliminaConceptos(), true;
-    if (elimina && lista == TControl::LBOtorgantes) return EliminaOtorgantes(), true;
-    return false;
+    if (anade && lista == TControl::LBPosiblesConceptos) {
+        LBPosiblesConceptos.SeleccionaAlMenosActual();
+        AnadeConceptos();
+    } else if (anade && lista == TControl::LBPosiblesOtorgantes) {
+        LBPosiblesOtorgantes.SeleccionaAlMenosActual();
+        AnadeOtorgantes();
+    } else if (anade && lista == TControl::dbgTipos) {
+        AnadeConceptosBD();
+    } else if (elimina && lista == TControl::LBConceptos) {
+        LBConceptos.SeleccionaAlMenosActual();
+        EliminaConceptos();
+    } else if (elimina && lista == TControl::LBOtorgantes) {
+        LBOtorgantes.SeleccionaAlMenosActual();
+        EliminaOtorgantes();
+    } else {
+        return false;
+    }
+    return true;
 }
 
 // ---- Deed types

@@ -218,6 +218,22 @@ TEST(Busca, UnaBusquedaFallidaEnElMismoOrdenNoTocaNada) {
     EXPECT_EQ(dialogo->dbgTipos.Revision(), revision) << "the table is not read for every letter";
 }
 
+TEST(Teclas, SinFilasSeleccionadasVanUnaAUnaDesdeLaActual) {
+    const TEscenaPreseleccion escena;
+    const auto dialogo = TEscenaPreseleccion::Crea({"A", "B", "C"}, {});
+    dialogo->LBPosiblesConceptos.PonActual(1);
+    dialogo->Tecla(TControl::LBPosiblesConceptos, TTecla::Intro);
+    dialogo->Tecla(TControl::LBPosiblesConceptos, TTecla::Insertar);
+    EXPECT_EQ(Textos(dialogo->LBConceptos.Lineas()), (std::vector<std::string>{"B", "C"}));
+    dialogo->LBConceptos.PonActual(0);
+    dialogo->Tecla(TControl::LBConceptos, TTecla::Suprimir);
+    dialogo->Tecla(TControl::LBConceptos, TTecla::Suprimir);
+    EXPECT_EQ(Textos(dialogo->LBPosiblesConceptos.Lineas()), (std::vector<std::string>{"A", "B", "C"}));
+    // Buttons move only what is selected.
+    dialogo->Pulsa(TControl::BMas);
+    EXPECT_EQ(dialogo->LBConceptos.Cuenta(), 0U);
+}
+
 TEST(Busca, IntroVaALosElegidosSiEstaDesdeElSegundo) {
     struct TCaso {
         std::string_view Texto;
