@@ -46,10 +46,15 @@ fs::path TCarpetaTemporal::Copia(std::string_view ejemplo, std::string_view nomb
 
 TEjecucion Analiza(const std::vector<std::string>& argumentos, const fs::path& salida,
                    const fs::path& entrada) {
+    return Ejecuta(PROGRAMA_ANALIZA, argumentos, {}, salida, entrada);
+}
+
+TEjecucion Ejecuta(const fs::path& programa, const std::vector<std::string>& argumentos,
+                   const std::string& entorno, const fs::path& salida, const fs::path& entrada) {
     const TCarpetaTemporal carpeta;
     const fs::path fichero = salida.empty() ? carpeta.Ruta() / "salida" : salida;
     const fs::path errores = carpeta.Ruta() / "errores";
-    std::string orden = Entrecomilla(PROGRAMA_ANALIZA);
+    std::string orden = entorno + " " + Entrecomilla(programa.string());
     for (const auto& argumento : argumentos) orden += " " + Entrecomilla(argumento);
     orden += " >" + Entrecomilla(fichero.string()) + " 2>" + Entrecomilla(errores.string()) + " <" +
              Entrecomilla(entrada.string());

@@ -40,6 +40,12 @@ struct TEjecucion {
                                  const std::filesystem::path& salida = {},
                                  const std::filesystem::path& entrada = "/dev/null");
 
+// The same of another program; `entorno`: assignments of variables, as a shell takes them before a command.
+[[nodiscard]] TEjecucion Ejecuta(const std::filesystem::path& programa,
+                                 const std::vector<std::string>& argumentos, const std::string& entorno = {},
+                                 const std::filesystem::path& salida = {},
+                                 const std::filesystem::path& entrada = "/dev/null");
+
 // The document of an example in the sources.
 [[nodiscard]] std::filesystem::path Ejemplo(std::string_view nombre);
 

@@ -52,8 +52,9 @@ TEST(UsoAnaliza, LaAyudaEstaTodaEnCastellano) {
     const auto ayuda = Analiza({"--ayuda"});
     EXPECT_EQ(ayuda.Codigo, 0);
     EXPECT_EQ(ayuda.Errores, "");
-    for (const char* opcion : {"--ayuda", "--version", "--json", "--config", "--tablas", "--guarda",
-                               "--salida", "--forzar", "FICHERO", "Uso: analiza", "(obligatorio)"})
+    for (const char* opcion :
+         {"--ayuda", "--version", "--json", "--config", "--tablas", "--guarda", "--salida", "--forzar",
+          "--revisa", "FICHERO", "Uso: analiza", "(obligatorio)"})
         EXPECT_THAT(ayuda.Salida, HasSubstr(opcion));
     for (const char* ingles :
          {"Usage", "OPTION", "Options", "REQUIRED", "Positionals", "TEXT", "Excludes", "help message"})
