@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QCoreApplication>
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
@@ -39,12 +38,6 @@ std::optional<TTecla> TeclaDe(const QKeyEvent& tecla) {
         default:
             return std::nullopt;
     }
-}
-
-// Whether the focus moved within the window: not when the window came to the front or a list or menu closed.
-bool EsDelUsuario(Qt::FocusReason motivo) {
-    return motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason &&
-           motivo != Qt::MenuBarFocusReason;
 }
 
 }  // namespace
@@ -152,8 +145,7 @@ bool DialogoDatos::eventFilter(QObject* objeto, QEvent* evento) {
                 controles_.Caja(*control)->setCursorPosition(0);
             break;
         case QEvent::FocusIn:
-            if (EsDelUsuario(static_cast<const QFocusEvent*>(evento)->reason()) &&
-                *control != dialogo_.Foco())
+            if (*control != dialogo_.Foco())
                 QMetaObject::invokeMethod(this, &DialogoDatos::TomaFocoDeQt, Qt::QueuedConnection);
             break;
         default:
