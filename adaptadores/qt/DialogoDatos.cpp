@@ -8,6 +8,7 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <optional>
@@ -197,7 +198,8 @@ void DialogoDatos::PonTamano() {
     const QSize abajo = barra_.sizeHint();
     QSize pedido(std::max(dentro.width(), abajo.width()) + margenes.left() + margenes.right(),
                  dentro.height() + layout()->spacing() + abajo.height() + margenes.top() + margenes.bottom());
-    const QSize sitio = screen()->availableGeometry().size();
+    const int titulo = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    const QSize sitio = screen()->availableGeometry().size() - QSize(0, titulo);
     if (pedido.height() > sitio.height()) pedido.rwidth() += zona_.verticalScrollBar()->sizeHint().width();
     if (pedido.width() > sitio.width()) pedido.rheight() += zona_.horizontalScrollBar()->sizeHint().height();
     setFixedSize(pedido.expandedTo(TAMANO_MINIMO).boundedTo(sitio));
