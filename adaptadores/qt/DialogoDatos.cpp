@@ -12,7 +12,6 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <optional>
-#include <string>
 
 #include "adaptadores/qt/HijoQt.h"
 #include "adaptadores/qt/TextoQt.h"
