@@ -1,7 +1,6 @@
 #include "adaptadores/qt/ColoreadoXml.h"
 
 #include <QRegularExpression>
-#include <algorithm>
 
 namespace analizador {
 

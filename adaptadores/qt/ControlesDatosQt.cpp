@@ -79,7 +79,7 @@ const TDescripcionControl& Descripcion(TControlDatos control) {
 
 QWidget& CreaLista(const TDescripcionControl& descripcion, const TEstadoControl& estado, QWidget* padre) {
     const bool editable = descripcion.Clase == TClaseControl::ListaEditable;
-    auto& lista = *std::make_unique<ListaDesplegable>(editable, descripcion.FilasVisibles, padre).release();
+    auto& lista = HijoDe<ListaDesplegable>(padre, editable, descripcion.FilasVisibles);
     std::size_t larga = 0;
     for (const auto& elemento : estado.Elementos) {
         lista.addItem(QtDeAnsi(elemento));

@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QPointer>
 #include <QVBoxLayout>
-#include <algorithm>
 
 #include "adaptadores/qt/HijoQt.h"
 #include "adaptadores/qt/TextoQt.h"
@@ -65,8 +64,7 @@ class VentanaProgreso : public QFrame {
 
 class TVentanaMensajeQt : public TVentanaMensaje {
   public:
-    TVentanaMensajeQt(std::string_view texto, QWidget* padre)
-        : ventana_(&*std::make_unique<VentanaProgreso>(padre).release()) {
+    TVentanaMensajeQt(std::string_view texto, QWidget* padre) : ventana_(&HijoDe<VentanaProgreso>(padre)) {
         ventana_->Pon(texto);
         ventana_->MuestraSobrePadre();
     }

@@ -16,7 +16,7 @@ VisorXml::VisorXml(QWidget* padre)
     : QWidget(padre),
       aviso_(HijoDe<QLabel>(this)),
       texto_(HijoDe<QPlainTextEdit>(this)),
-      coloreado_(*std::make_unique<ColoreadoXml>(texto_.palette(), texto_.document()).release()) {
+      coloreado_(HijoDe<ColoreadoXml>(texto_.document(), texto_.palette())) {
     aviso_.setObjectName(QStringLiteral("AvisoXML"));
     aviso_.setTextFormat(Qt::PlainText);
     aviso_.setWordWrap(true);
