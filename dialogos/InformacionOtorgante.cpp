@@ -149,8 +149,9 @@ void TFInformacionOtorgante::Acepta() {
     resultado_ = true;
 }
 
+// A dialog that OK has closed stays so: its record has been changed.
 void TFInformacionOtorgante::Cierra() {
-    resultado_ = false;
+    if (!resultado_) resultado_ = false;
 }
 
 void TFInformacionOtorgante::ListaINE() {

@@ -3,12 +3,12 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QCoreApplication>
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <optional>
@@ -39,12 +39,6 @@ std::optional<TTecla> TeclaDe(const QKeyEvent& tecla) {
         default:
             return std::nullopt;
     }
-}
-
-// Whether the focus moved within the window: not when the window came to the front or a list or menu closed.
-bool EsDelUsuario(Qt::FocusReason motivo) {
-    return motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason &&
-           motivo != Qt::MenuBarFocusReason;
 }
 
 }  // namespace
@@ -152,8 +146,7 @@ bool DialogoDatos::eventFilter(QObject* objeto, QEvent* evento) {
                 controles_.Caja(*control)->setCursorPosition(0);
             break;
         case QEvent::FocusIn:
-            if (EsDelUsuario(static_cast<const QFocusEvent*>(evento)->reason()) &&
-                *control != dialogo_.Foco())
+            if (*control != dialogo_.Foco())
                 QMetaObject::invokeMethod(this, &DialogoDatos::TomaFocoDeQt, Qt::QueuedConnection);
             break;
         default:
@@ -205,7 +198,8 @@ void DialogoDatos::PonTamano() {
     const QSize abajo = barra_.sizeHint();
     QSize pedido(std::max(dentro.width(), abajo.width()) + margenes.left() + margenes.right(),
                  dentro.height() + layout()->spacing() + abajo.height() + margenes.top() + margenes.bottom());
-    const QSize sitio = screen()->availableGeometry().size();
+    const int titulo = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    const QSize sitio = screen()->availableGeometry().size() - QSize(0, titulo);
     if (pedido.height() > sitio.height()) pedido.rwidth() += zona_.verticalScrollBar()->sizeHint().width();
     if (pedido.width() > sitio.width()) pedido.rheight() += zona_.horizontalScrollBar()->sizeHint().height();
     setFixedSize(pedido.expandedTo(TAMANO_MINIMO).boundedTo(sitio));

@@ -38,6 +38,7 @@ bool TVisoresQt::AbreTexto(const std::filesystem::path& fichero) {
 void TVisoresQt::CreateVisorEmbeddedWB(TComponente* propietario, const std::filesystem::path& fichero,
                                        std::string_view titulo) {
     QDialog ventana(VentanaPadre(propietario), Qt::Window);
+    ventana.setAttribute(Qt::WA_QuitOnClose, false);
     ventana.setObjectName(QStringLiteral("VisorEmbeddedWB"));
     ventana.setWindowTitle(QtDeAnsi(titulo));
     auto& visor = HijoDe<VisorXml>(&ventana);

@@ -370,6 +370,8 @@ TEST_F(InformacionOtorgante, ActualizarCierraYGuarda) {
     EXPECT_EQ(dialogo_.Foco(), BBAceptar);
     EXPECT_EQ(dialogo_.Resultado(), true);
     EXPECT_EQ(otorgante_.Apellidos, "OTROS");
+    dialogo_.Cierra();  // the window goes
+    EXPECT_EQ(dialogo_.Resultado(), true);
 }
 
 // A clerk before the dialog.

@@ -219,9 +219,20 @@ TEST_F(ManejoDatosQt, WheelLeavesAClosedListAlone) {
         QWheelEvent rueda(QPointF(5, 5), lista.mapToGlobal(QPointF(5, 5)), {}, {0, vuelta}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(&lista, &rueda);
+        EXPECT_EQ(lista.currentIndex(), elegido) << vuelta;
     }
-    EXPECT_EQ(lista.currentIndex(), elegido);
     EXPECT_EQ(ConFoco(), "EConyuge");
+}
+
+TEST(ListaDesplegable, EnterInsertsNothingIntoItsItems) {
+    ListaDesplegable lista(true, 0, nullptr);
+    lista.addItems({"FRANCIA", "BOLIVIA"});
+    lista.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&lista));
+    lista.lineEdit()->setText("PERU");
+    QTest::keyClick(lista.lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(lista.count(), 2);
+    EXPECT_EQ(lista.currentText(), QStringLiteral("PERU"));
 }
 
 // ---- The date

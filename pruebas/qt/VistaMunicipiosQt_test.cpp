@@ -92,6 +92,7 @@ TEST_F(VistaMunicipiosQt, DoubleClickPicks) {
                         auto& tabla = Tabla(dialogo);
                         const QPoint sitio = tabla.visualRect(tabla.model()->index(2, 1)).center();
                         QTest::mouseClick(tabla.viewport(), Qt::LeftButton, {}, sitio);
+                        EXPECT_EQ(dialogo.focusWidget()->objectName(), QStringLiteral("EFiltro"));
                         QTest::mouseDClick(tabla.viewport(), Qt::LeftButton, {}, sitio);
                     }),
               "47104");
