@@ -1,6 +1,8 @@
 #include "adaptadores/qt/ControlesPreseleccion.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
+#include <algorithm>
 
 namespace analizador {
 
@@ -99,15 +101,25 @@ void TControlesPreseleccion::PreparaTipos() {
     eBusca.setObjectName("eBusca");
     eBusca.setToolTip(QStringLiteral("INTRO: Aceptar el tipo ESCAPE: Siguiente dato"));
     eBusca.setPlaceholderText(QStringLiteral("Buscar un tipo por su nombre o su número"));
+    const QFontMetrics letra = eBusca.fontMetrics();
+    eBusca.setMinimumWidth(letra.horizontalAdvance(eBusca.placeholderText()) + letra.height());
     eBusca.setAccessibleName(eBusca.placeholderText());
 }
 
 void TControlesPreseleccion::RepartoColumnas() {
     Titulos.setResizeContentsPrecision(0);
-    for (const auto columna : {TColumnaTipos::NUMEROTIPO, TColumnaTipos::CLAVE_INTI})
+    int numeros = 0;
+    for (const auto columna : {TColumnaTipos::NUMEROTIPO, TColumnaTipos::CLAVE_INTI}) {
         Titulos.setSectionResizeMode(static_cast<int>(columna), QHeaderView::ResizeToContents);
-    for (const auto columna : {TColumnaTipos::NOMBRE, TColumnaTipos::TIPO})
+        numeros += Titulos.sectionSizeHint(static_cast<int>(columna));
+    }
+    int nombre = 0;
+    for (const auto columna : {TColumnaTipos::NOMBRE, TColumnaTipos::TIPO}) {
         Titulos.setSectionResizeMode(static_cast<int>(columna), QHeaderView::Stretch);
+        nombre = std::max(nombre, Titulos.sectionSizeHint(static_cast<int>(columna)));
+    }
+    dbgTipos.setMinimumWidth(numeros + 2 * nombre + 2 * dbgTipos.frameWidth() +
+                             dbgTipos.verticalScrollBar()->sizeHint().width());
 }
 
 void TControlesPreseleccion::PreparaBotones() {

@@ -46,7 +46,8 @@ class TControlesPreseleccion {
     // The view of a control with rows; nullptr for the others.
     [[nodiscard]] QAbstractItemView* Vista(TControlPreseleccion control);
 
-    // The names share the width that the numbers and keys leave. Once the grid has its model.
+    // The names share the width that the numbers and keys leave, which is no less than the titles need. Once
+    // the grid has its model.
     void RepartoColumnas();
 
   private:

@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QSignalBlocker>
 
+#include "adaptadores/qt/TeclasQt.h"
 #include "adaptadores/qt/TextoQt.h"
 
 namespace analizador {
@@ -17,31 +18,6 @@ namespace analizador {
 namespace {
 
 constexpr auto PISTA_CURSIVA = "Ya figura en los datos actuales del documento";
-
-std::optional<TTecla> TeclaDe(const QKeyEvent& suceso) {
-    if ((suceso.modifiers() & ~Qt::KeypadModifier) != 0) return {};
-    switch (suceso.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return TTecla::Intro;
-        case Qt::Key_Escape:
-            return TTecla::Escape;
-        case Qt::Key_Up:
-            return TTecla::Arriba;
-        case Qt::Key_Down:
-            return TTecla::Abajo;
-        case Qt::Key_PageUp:
-            return TTecla::RePag;
-        case Qt::Key_PageDown:
-            return TTecla::AvPag;
-        case Qt::Key_Insert:
-            return TTecla::Insertar;
-        case Qt::Key_Delete:
-            return TTecla::Suprimir;
-        default:
-            return {};
-    }
-}
 
 template <class Filas, class Modelo>
 std::unique_ptr<TEnlaceFilas> Enlaza(QAbstractItemView& vista, Filas& filas, Modelo& modelo) {

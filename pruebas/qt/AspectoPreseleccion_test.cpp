@@ -34,6 +34,32 @@ class AspectoPreseleccion : public testing::TestWithParam<int> {
         QApplication::processEvents();
     }
 
+    void NadaCortado() {
+        for (const auto* boton : escena_.Ventana().findChildren<QPushButton*>()) {
+            EXPECT_GE(boton->width(), boton->sizeHint().width()) << boton->objectName().toStdString();
+            EXPECT_GE(boton->height(), boton->sizeHint().height()) << boton->objectName().toStdString();
+        }
+        for (const auto* rotulo : escena_.Ventana().findChildren<QLabel*>())
+            if (rotulo->isVisible()) {
+                EXPECT_GE(rotulo->height(), rotulo->heightForWidth(rotulo->width()))
+                    << rotulo->text().toStdString();
+            }
+        const auto& pestanas = *escena_.Ventana().findChild<QTabBar*>();
+        EXPECT_GE(pestanas.width(), pestanas.sizeHint().width());
+        const auto& busca = escena_.Control<QLineEdit>("eBusca");
+        EXPECT_GE(busca.width(), busca.fontMetrics().horizontalAdvance(busca.placeholderText()));
+        const auto& titulos = *escena_.Control<QTableView>("dbgTipos").horizontalHeader();
+        for (int i = 0; i < titulos.count(); ++i)
+            EXPECT_GE(titulos.sectionSize(i), titulos.sectionSizeHint(i)) << i;
+        for (const char* vista :
+             {"LBPosiblesConceptos", "LBConceptos", "LBPosiblesOtorgantes", "LBOtorgantes"})
+            EXPECT_GE(escena_.Vista(vista).viewport()->height(),
+                      escena_.Ventana().fontMetrics().height() * 3 / 2)
+                << vista;
+        EXPECT_GE(escena_.Vista("dbgTipos").viewport()->height(),
+                  2 * escena_.Control<QTableView>("dbgTipos").rowHeight(0));
+    }
+
     const QFont antes_ = QApplication::font();
     TEscenaVentana escena_;
 };
@@ -43,27 +69,16 @@ TEST_P(AspectoPreseleccion, FitsASmallScreenWithNoTextCutOff) {
     Mide({1024, 600});
     EXPECT_LE(escena_.Ventana().width(), 1024);
     EXPECT_LE(escena_.Ventana().height(), 600);
-    for (const auto* boton : escena_.Ventana().findChildren<QPushButton*>()) {
-        EXPECT_GE(boton->width(), boton->sizeHint().width()) << boton->objectName().toStdString();
-        EXPECT_GE(boton->height(), boton->sizeHint().height()) << boton->objectName().toStdString();
+    NadaCortado();
+}
+
+// Where the labels need more lines the window does not let itself be made too low.
+TEST_P(AspectoPreseleccion, NoTextIsCutOffInTheSmallestWindow) {
+    escena_.Abre({}, XML);
+    for (const int ancho : {1024, 800, 100}) {
+        Mide({ancho, 100});
+        NadaCortado();
     }
-    for (const auto* rotulo : escena_.Ventana().findChildren<QLabel*>())
-        if (rotulo->isVisible()) {
-            EXPECT_GE(rotulo->height(), rotulo->heightForWidth(rotulo->width()))
-                << rotulo->text().toStdString();
-        }
-    const auto& pestanas = *escena_.Ventana().findChild<QTabBar*>();
-    EXPECT_GE(pestanas.width(), pestanas.sizeHint().width());
-    const auto& busca = escena_.Control<QLineEdit>("eBusca");
-    EXPECT_GE(busca.width(), busca.fontMetrics().horizontalAdvance(busca.placeholderText()));
-    const auto& titulos = *escena_.Control<QTableView>("dbgTipos").horizontalHeader();
-    for (int i = 0; i < titulos.count(); ++i)
-        EXPECT_GE(titulos.sectionSize(i), titulos.sectionSizeHint(i)) << i;
-    for (const char* vista : {"LBPosiblesConceptos", "LBConceptos", "LBPosiblesOtorgantes", "LBOtorgantes"})
-        EXPECT_GE(escena_.Vista(vista).viewport()->height(), escena_.Ventana().fontMetrics().height() * 3 / 2)
-            << vista;
-    EXPECT_GE(escena_.Vista("dbgTipos").viewport()->height(),
-              2 * escena_.Control<QTableView>("dbgTipos").rowHeight(0));
 }
 
 TEST_P(AspectoPreseleccion, LongNamesGoOnInMoreLines) {

@@ -143,6 +143,21 @@ TEST_F(FilasPreseleccion, DragsBetweenKindsAndOnTheSameListAreRefused) {
         }
 }
 
+// Without a screen no drag can be followed with the mouse; that the views begin one is told here, and what
+// follows in the tests above.
+TEST_F(FilasPreseleccion, RowsCanBeDraggedWithTheMouse) {
+    escena_.Abre(TRES);
+    EligeTodo();
+    for (const char* nombre : {"LBConceptos", "dbgTipos", "LBOtorgantes"}) {
+        const auto& vista = escena_.Vista(nombre);
+        EXPECT_TRUE(vista.dragEnabled()) << nombre;
+        EXPECT_TRUE(vista.viewport()->acceptDrops()) << nombre;
+        EXPECT_TRUE(vista.model()->index(0, 0).flags().testFlag(Qt::ItemIsDragEnabled)) << nombre;
+        const bool rejilla = nombre == std::string("dbgTipos");
+        EXPECT_EQ(vista.model()->supportedDragActions(), rejilla ? Qt::CopyAction : Qt::MoveAction) << nombre;
+    }
+}
+
 TEST_F(FilasPreseleccion, WhatIsDraggedFromElsewhereIsRefused) {
     escena_.Abre(TRES);
     auto& sobre = *escena_.Vista("LBConceptos").viewport();

@@ -139,6 +139,22 @@ TEST_F(RejillaPreseleccion, TypingGoesToTheType) {
     }
 }
 
+TEST_F(RejillaPreseleccion, TheTypeFoundIsSeenWhileTheFocusIsInTheBox) {
+    escena_.Abre();
+    Busca("pr");
+    auto& rejilla = escena_.Vista("dbgTipos");
+    const QImage imagen = rejilla.viewport()->grab().toImage();
+    const auto fondo = [&](int fila, TColumnaTipos columna) {
+        const QModelIndex indice = rejilla.model()->index(fila, static_cast<int>(columna));
+        return imagen.pixelColor(rejilla.visualRect(indice).topLeft() + QPoint(1, 1));
+    };
+    for (const auto columna : {TColumnaTipos::NOMBRE, TColumnaTipos::TIPO}) {
+        EXPECT_NE(fondo(1, columna), fondo(0, columna));
+        EXPECT_EQ(fondo(2, columna), fondo(0, columna));
+    }
+    EXPECT_TRUE(escena_.Seleccionadas("dbgTipos").empty());
+}
+
 TEST_F(RejillaPreseleccion, LettersThatTheCodePageLacksStayAsTyped) {
     escena_.Abre();
     Busca(QStringLiteral("\u0416a"));

@@ -113,7 +113,8 @@ void Datos(TCamara& camara, const std::string& sufijo) {
     otorgante.TipoVia = "CL";
     otorgante.CodPostal = "03180";
     otorgante.CodINE = "03133";
-    otorgante.CodPais = 108;
+    otorgante.CodPais = 724;
+    otorgante.Residente = true;
     otorgante.Pais = "ESPAÑA"_ansi;
     otorgante.Conyuge = "MANRIQUE OLMEDO, JUAN ANTONIO";
     otorgante.FechaNacimiento = TFecha{std::chrono::year(1971), std::chrono::month(5), std::chrono::day(3)};
