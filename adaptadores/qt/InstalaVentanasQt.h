@@ -3,6 +3,7 @@
 #include "adaptadores/qt/MensajesQt.h"
 #include "adaptadores/qt/PantallaQt.h"
 #include "adaptadores/qt/SeleccionaNotarioQt.h"
+#include "adaptadores/qt/TextosDeQt.h"
 #include "adaptadores/qt/VisoresQt.h"
 #include "adaptadores/qt/VistaInformacionQt.h"
 #include "adaptadores/qt/VistaMunicipiosQt.h"
@@ -14,6 +15,7 @@ namespace analizador {
 // QApplication, and must be created after whatever installs other windows.
 class TInstalaVentanasQt {
   private:
+    TTextosDeQt FTextos;
     TMensajesQt FMensajes;
     TPantallaQt FPantalla;
     TSeleccionaNotarioQt FNotario;
