@@ -28,7 +28,7 @@ std::unique_ptr<TEnlaceFilas> Enlaza(QAbstractItemView& vista, Filas& filas, Mod
 // Sized by the letter, and never larger than the screen.
 QSize TamanoInicial(const QWidget& ventana) {
     constexpr int LETRAS_ANCHO = 150;
-    constexpr int LINEAS_ALTO = 36;
+    constexpr int LINEAS_ALTO = 44;
     const QFontMetrics letra = ventana.fontMetrics();
     const QSize bueno(letra.averageCharWidth() * LETRAS_ANCHO, letra.lineSpacing() * LINEAS_ALTO);
     return bueno.boundedTo(QGuiApplication::primaryScreen()->availableSize());
