@@ -39,11 +39,11 @@ class TListaSeleccion {
 
     // Gives a line another text, such as its record has after it was edited; a text that another line has is
     // made to stand twice rather than lose the record.
-    void CambiaTexto(std::size_t donde, std::string texto) {
+    void CambiaTexto(std::size_t donde, const std::string& texto) {
         if (donde >= Cuenta() || lineas_[donde].Texto == texto) return;
         textos_.erase(textos_.find(lineas_[donde].Texto));
         textos_.insert(texto);
-        lineas_[donde].Texto = std::move(texto);
+        lineas_[donde].Texto = texto;
         ++revision_;
     }
 
