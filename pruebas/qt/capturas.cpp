@@ -21,6 +21,7 @@
 #include "adaptadores/qt/VistaPreseleccionQt.h"
 #include "plataforma/Ansi.h"
 #include "pruebas/comun/ConfigDePrueba.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/qt/Camara.h"
 
 namespace {
@@ -168,7 +169,7 @@ int main(int argc, char** argv) {
     TProveedorDbase tablas(std::filesystem::path{CARPETA_TABLAS});
     const InstalaTablas guardaTablas(tablas);
     TConfigDePrueba configuracion;
-    configuracion.Notarios = {"LUIS SANZ ROCA", std::string("EVA MUÑOZ CASTAÑO"_ansi), "ANA GIL PEREZ"};
+    configuracion.Notarios = {"LUIS SANZ ROCA", std::string("EVA MUÑOZ CASTAÑO"_a), "ANA GIL PEREZ"};
     const InstalaConfig guardaConfig(configuracion);
     TCamara camara{argv[1]};
     QApplication::setStyle(QStyleFactory::create("Fusion"));
