@@ -4,12 +4,12 @@
 
 namespace analizador {
 
-ColoreadoXml::ColoreadoXml(const QPalette& colores, QTextDocument* documento)
+TColoreadoXml::TColoreadoXml(const QPalette& colores, QTextDocument* documento)
     : QSyntaxHighlighter(documento) {
     PonPaleta(colores);
 }
 
-void ColoreadoXml::PonPaleta(const QPalette& colores) {
+void TColoreadoXml::PonPaleta(const QPalette& colores) {
     const bool oscuro = colores.color(QPalette::Base).lightness() < 128;
     if (oscuro)
         colores_ = {QColor(0x7F, 0xB8, 0xFF), QColor(0xE5, 0xC0, 0x7B), QColor(0x98, 0xD8, 0x8A),
@@ -20,14 +20,14 @@ void ColoreadoXml::PonPaleta(const QPalette& colores) {
     rehighlight();
 }
 
-void ColoreadoXml::Pinta(qsizetype desde, qsizetype hasta, const QColor& color) {
+void TColoreadoXml::Pinta(qsizetype desde, qsizetype hasta, const QColor& color) {
     setFormat(static_cast<int>(desde), static_cast<int>(hasta - desde), color);
 }
 
 // Each of the next three colours from a position up to where its part of the text ends and returns that end;
 // the block's state says in which part the next position is.
 
-qsizetype ColoreadoXml::ColoreaHasta(const QString& texto, qsizetype desde, const char* cierre) {
+qsizetype TColoreadoXml::ColoreaHasta(const QString& texto, qsizetype desde, const char* cierre) {
     const qsizetype donde = texto.indexOf(QLatin1String(cierre), desde);
     if (donde < 0) {
         Pinta(desde, texto.size(), colores_.Comentario);
@@ -39,7 +39,7 @@ qsizetype ColoreadoXml::ColoreaHasta(const QString& texto, qsizetype desde, cons
     return fin;
 }
 
-qsizetype ColoreadoXml::ColoreaEtiqueta(const QString& texto, qsizetype desde) {
+qsizetype TColoreadoXml::ColoreaEtiqueta(const QString& texto, qsizetype desde) {
     static const QRegularExpression TROZO(
         QStringLiteral("(?<valor>\"[^\"]*\"?|'[^']*'?)|(?<fin>/?>)|(?<nombre>[^\\s\"'=/>]+)"));
     const auto trozo = TROZO.match(texto, desde);
@@ -54,7 +54,7 @@ qsizetype ColoreadoXml::ColoreaEtiqueta(const QString& texto, qsizetype desde) {
     return trozo.capturedEnd();
 }
 
-qsizetype ColoreadoXml::ColoreaFuera(const QString& texto, qsizetype desde) {
+qsizetype TColoreadoXml::ColoreaFuera(const QString& texto, qsizetype desde) {
     static const QRegularExpression COMIENZO(
         QStringLiteral("(?<comentario><!--)|(?<cdata><!\\[CDATA\\[)|(?<instruccion><[?!])"
                        "|(?<etiqueta></?[^\\s\"'=/<>]*)|(?<referencia>&[^;\\s<&]*;)"));
@@ -75,7 +75,7 @@ qsizetype ColoreadoXml::ColoreaFuera(const QString& texto, qsizetype desde) {
     return comienzo.capturedEnd();
 }
 
-void ColoreadoXml::highlightBlock(const QString& texto) {
+void TColoreadoXml::highlightBlock(const QString& texto) {
     setCurrentBlockState(previousBlockState());
     qsizetype donde = 0;
     while (donde < texto.size()) {

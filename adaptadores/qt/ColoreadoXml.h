@@ -9,9 +9,9 @@
 namespace analizador {
 
 // Colours the XML of a document: tags, attributes, their values, references and what the reader passes over.
-class ColoreadoXml : public QSyntaxHighlighter {
+class TColoreadoXml : public QSyntaxHighlighter {
   public:
-    ColoreadoXml(const QPalette& colores, QTextDocument* documento);
+    TColoreadoXml(const QPalette& colores, QTextDocument* documento);
     // Takes the colours that can be read on another background.
     void PonPaleta(const QPalette& colores);
 

@@ -79,7 +79,7 @@ const TDescripcionControl& Descripcion(TControlDatos control) {
 
 QWidget& CreaLista(const TDescripcionControl& descripcion, const TEstadoControl& estado, QWidget* padre) {
     const bool editable = descripcion.Clase == TClaseControl::ListaEditable;
-    auto& lista = HijoDe<ListaDesplegable>(padre, editable, descripcion.FilasVisibles);
+    auto& lista = HijoDe<TListaDesplegable>(padre, editable, descripcion.FilasVisibles);
     std::size_t larga = 0;
     for (const auto& elemento : estado.Elementos) {
         lista.addItem(QtDeAnsi(elemento));
@@ -132,16 +132,16 @@ void Coloca(const TSitio& sitio, QWidget* control, QLabel* rotulo, QGridLayout& 
 
 }  // namespace
 
-ControlesDatosQt::ControlesDatosQt(const TFInformacionOtorgante& dialogo, QWidget& contenido,
-                                   QWidget& barra) {
+TControlesDatosQt::TControlesDatosQt(const TFInformacionOtorgante& dialogo, QWidget& contenido,
+                                     QWidget& barra) {
     for (const auto& descripcion : ControlesDatos())
         Crea(descripcion, dialogo.Control(descripcion.Control),
              descripcion.Grupo == TGrupoDatos::Barra ? barra : contenido);
     Dispon(contenido, barra);
 }
 
-void ControlesDatosQt::Crea(const TDescripcionControl& descripcion, const TEstadoControl& estado,
-                            QWidget& padre) {
+void TControlesDatosQt::Crea(const TDescripcionControl& descripcion, const TEstadoControl& estado,
+                             QWidget& padre) {
     QWidget& control = CreaControl(descripcion, estado, &padre);
     control.setObjectName(QtDeAnsi(descripcion.Nombre));
     control.setToolTip(QtDeAnsi(descripcion.Pista));
@@ -154,7 +154,7 @@ void ControlesDatosQt::Crea(const TDescripcionControl& descripcion, const TEstad
     }
 }
 
-void ControlesDatosQt::Dispon(QWidget& contenido, QWidget& barra) {
+void TControlesDatosQt::Dispon(QWidget& contenido, QWidget& barra) {
     auto& columna = HijoDe<QVBoxLayout>(&contenido);
     columna.setContentsMargins(0, 0, 0, 0);
     for (const auto& rejilla : REJILLAS) {
@@ -174,16 +174,16 @@ void ControlesDatosQt::Dispon(QWidget& contenido, QWidget& barra) {
         if (descripcion.Grupo == TGrupoDatos::Barra) botones.addWidget(&Control(descripcion.Control));
 }
 
-QLineEdit* ControlesDatosQt::Caja(TControlDatos control) const {
+QLineEdit* TControlesDatosQt::Caja(TControlDatos control) const {
     if (const auto* lista = Lista(control)) return lista->lineEdit();
     return qobject_cast<QLineEdit*>(&Control(control));
 }
 
-ListaDesplegable* ControlesDatosQt::Lista(TControlDatos control) const {
-    return dynamic_cast<ListaDesplegable*>(&Control(control));
+TListaDesplegable* TControlesDatosQt::Lista(TControlDatos control) const {
+    return dynamic_cast<TListaDesplegable*>(&Control(control));
 }
 
-std::optional<TControlDatos> ControlesDatosQt::Cual(const QObject* objeto) const {
+std::optional<TControlDatos> TControlesDatosQt::Cual(const QObject* objeto) const {
     if (objeto == nullptr) return std::nullopt;
     for (const auto& descripcion : ControlesDatos())
         if (objeto == &Control(descripcion.Control) || objeto == Caja(descripcion.Control))
@@ -191,7 +191,7 @@ std::optional<TControlDatos> ControlesDatosQt::Cual(const QObject* objeto) const
     return std::nullopt;
 }
 
-void ControlesDatosQt::Muestra(TControlDatos control, const TEstadoControl& estado) {
+void TControlesDatosQt::Muestra(TControlDatos control, const TEstadoControl& estado) {
     TParte& parte = partes_[static_cast<std::size_t>(control)];
     if (auto* lista = Lista(control); lista != nullptr && lista->currentIndex() != estado.Elegido)
         lista->setCurrentIndex(estado.Elegido);

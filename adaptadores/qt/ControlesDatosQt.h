@@ -1,6 +1,7 @@
 #pragma once
 
-// The controls of the party details dialog as Qt has them, made and laid out; what they do is DialogoDatos's.
+// The controls of the party details dialog as Qt has them, made and laid out; what they do is
+// TDialogoDatos's.
 
 #include <QLabel>
 #include <QLineEdit>
@@ -15,17 +16,17 @@
 
 namespace analizador {
 
-class ControlesDatosQt {
+class TControlesDatosQt {
   public:
     // Makes every control with its label, the groups in `contenido` and the buttons of the bar in `barra`,
     // which own them. The lists hold the dialog's items; nothing else of what the dialog holds is shown yet.
-    ControlesDatosQt(const TFInformacionOtorgante& dialogo, QWidget& contenido, QWidget& barra);
+    TControlesDatosQt(const TFInformacionOtorgante& dialogo, QWidget& contenido, QWidget& barra);
 
     [[nodiscard]] QWidget& Control(TControlDatos control) const { return *Parte(control).Control; }
     // The box that one types in: of a box, the date and an editable list; of others nullptr.
     [[nodiscard]] QLineEdit* Caja(TControlDatos control) const;
     // nullptr for what is no list.
-    [[nodiscard]] ListaDesplegable* Lista(TControlDatos control) const;
+    [[nodiscard]] TListaDesplegable* Lista(TControlDatos control) const;
     // Which control an object is, or is a part of.
     [[nodiscard]] std::optional<TControlDatos> Cual(const QObject* objeto) const;
 

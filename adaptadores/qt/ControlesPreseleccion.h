@@ -86,7 +86,7 @@ class TControlesPreseleccion {
     QPushButton SPXML;
     QPushButton BContinuar;
     QPushButton BCancelar;
-    VisorXml Visor;
+    TVisorXml Visor;
     QAction VerPosible;  // the entries of the two party lists' menus
     QAction VerValido;
 };

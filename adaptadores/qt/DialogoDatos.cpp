@@ -11,9 +11,9 @@
 #include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <optional>
 
 #include "adaptadores/qt/HijoQt.h"
+#include "adaptadores/qt/TeclasQt.h"
 #include "adaptadores/qt/TextoQt.h"
 #include "plataforma/Ansi.h"
 
@@ -23,26 +23,9 @@ namespace {
 
 constexpr QSize TAMANO_MINIMO(525, 483);  // of the window's inside
 
-std::optional<TTecla> TeclaDe(const QKeyEvent& tecla) {
-    if (tecla.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return std::nullopt;
-    switch (tecla.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return TTecla::Intro;
-        case Qt::Key_Escape:
-            return TTecla::Escape;
-        case Qt::Key_Up:
-            return TTecla::Arriba;
-        case Qt::Key_Down:
-            return TTecla::Abajo;
-        default:
-            return std::nullopt;
-    }
-}
-
 }  // namespace
 
-DialogoDatos::DialogoDatos(TFInformacionOtorgante& dialogo, QWidget* padre)
+TDialogoDatos::TDialogoDatos(TFInformacionOtorgante& dialogo, QWidget* padre)
     : QDialog(padre),
       dialogo_(dialogo),
       zona_(HijoDe<QScrollArea>(this)),
@@ -65,7 +48,7 @@ DialogoDatos::DialogoDatos(TFInformacionOtorgante& dialogo, QWidget* padre)
 // ---- What the user does
 
 template <class Accion>
-void DialogoDatos::Haz(Accion&& accion) {
+void TDialogoDatos::Haz(Accion&& accion) {
     if (ocupado_) return;
     {
         const QScopedValueRollback<bool> guarda(ocupado_, true);
@@ -74,7 +57,7 @@ void DialogoDatos::Haz(Accion&& accion) {
     Sincroniza();
 }
 
-void DialogoDatos::Conecta(const TDescripcionControl& descripcion) {
+void TDialogoDatos::Conecta(const TDescripcionControl& descripcion) {
     const TControlDatos control = descripcion.Control;
     controles_.Control(control).installEventFilter(this);
     if (auto* caja = controles_.Caja(control)) {
@@ -93,7 +76,7 @@ void DialogoDatos::Conecta(const TDescripcionControl& descripcion) {
                 [this, control] { Haz([&] { dialogo_.Pulsa(control); }); });
 }
 
-void DialogoDatos::Tecleado(TControlDatos control, const QString& nuevo) {
+void TDialogoDatos::Tecleado(TControlDatos control, const QString& nuevo) {
     QLineEdit& caja = *controles_.Caja(control);
     const std::size_t cursor = AnsiDeQt(nuevo.left(caja.cursorPosition())).size();
     const TTecleado ajustado = TFInformacionOtorgante::AjustaTecleado(
@@ -106,7 +89,7 @@ void DialogoDatos::Tecleado(TControlDatos control, const QString& nuevo) {
     Haz([&] { dialogo_.Escribe(control, ajustado.Texto); });
 }
 
-bool DialogoDatos::Tecla(TControlDatos control, const QKeyEvent& tecla) {
+bool TDialogoDatos::Tecla(TControlDatos control, const QKeyEvent& tecla) {
     const auto suya = TeclaDe(tecla);
     if (!suya) return false;
     auto* const lista = controles_.Lista(control);
@@ -118,7 +101,7 @@ bool DialogoDatos::Tecla(TControlDatos control, const QKeyEvent& tecla) {
 }
 
 // Hands a key over as the capital that the box will hold, so that nothing has to be put right afterwards.
-bool DialogoDatos::TecleaEnMayusculas(QObject* objeto, const QKeyEvent& tecla) {
+bool TDialogoDatos::TecleaEnMayusculas(QObject* objeto, const QKeyEvent& tecla) {
     const QString mayusculas = QtDeAnsi(AnsiUpperCase(AnsiDeQt(tecla.text())));
     if (tecla.text().isEmpty() || mayusculas == tecla.text() || AnsiDeQt(tecla.text()) == "?") return false;
     QKeyEvent otra(QEvent::KeyPress, tecla.key(), tecla.modifiers(), mayusculas, tecla.isAutoRepeat());
@@ -126,7 +109,7 @@ bool DialogoDatos::TecleaEnMayusculas(QObject* objeto, const QKeyEvent& tecla) {
     return true;
 }
 
-bool DialogoDatos::eventFilter(QObject* objeto, QEvent* evento) {
+bool TDialogoDatos::eventFilter(QObject* objeto, QEvent* evento) {
     const auto control = controles_.Cual(objeto);
     if (!control) return QDialog::eventFilter(objeto, evento);
     switch (evento->type()) {
@@ -146,7 +129,7 @@ bool DialogoDatos::eventFilter(QObject* objeto, QEvent* evento) {
             break;
         case QEvent::FocusIn:
             if (*control != dialogo_.Foco())
-                QMetaObject::invokeMethod(this, &DialogoDatos::TomaFocoDeQt, Qt::QueuedConnection);
+                QMetaObject::invokeMethod(this, &TDialogoDatos::TomaFocoDeQt, Qt::QueuedConnection);
             break;
         default:
             break;
@@ -156,24 +139,24 @@ bool DialogoDatos::eventFilter(QObject* objeto, QEvent* evento) {
 
 // ---- Focus
 
-bool DialogoDatos::PonFoco(TControlDatos control) {
+bool TDialogoDatos::PonFoco(TControlDatos control) {
     bool puesto = false;
     Haz([&] { puesto = dialogo_.PonFoco(control); });
     return puesto;
 }
 
-bool DialogoDatos::focusNextPrevChild(bool siguiente) {
+bool TDialogoDatos::focusNextPrevChild(bool siguiente) {
     PonFoco(dialogo_.Siguiente(dialogo_.Foco(), !siguiente));
     return true;
 }
 
 // The focus went somewhere by itself: to the neighbour of a label's letter, or where an aid for the blind put
 // it. Not within its event, for the check may show a message.
-void DialogoDatos::TomaFocoDeQt() {
+void TDialogoDatos::TomaFocoDeQt() {
     if (const auto control = controles_.Cual(focusWidget())) PonFoco(*control);
 }
 
-void DialogoDatos::Sincroniza() {
+void TDialogoDatos::Sincroniza() {
     for (const auto& descripcion : ControlesDatos())
         controles_.Muestra(descripcion.Control, dialogo_.Control(descripcion.Control));
     QWidget& conFoco = controles_.Control(dialogo_.Foco());
@@ -187,11 +170,11 @@ void DialogoDatos::Sincroniza() {
 
 // ---- Window
 
-void DialogoDatos::reject() {
+void TDialogoDatos::reject() {
     Haz([&] { dialogo_.Cierra(); });
 }
 
-void DialogoDatos::PonTamano() {
+void TDialogoDatos::PonTamano() {
     const QMargins margenes = layout()->contentsMargins();
     const QSize dentro = contenido_.sizeHint().expandedTo(contenido_.minimumSizeHint());
     const QSize abajo = barra_.sizeHint();
@@ -204,12 +187,12 @@ void DialogoDatos::PonTamano() {
     setFixedSize(pedido.expandedTo(TAMANO_MINIMO).boundedTo(sitio));
 }
 
-void DialogoDatos::showEvent(QShowEvent* evento) {
+void TDialogoDatos::showEvent(QShowEvent* evento) {
     PonTamano();
     QDialog::showEvent(evento);
 }
 
-void DialogoDatos::changeEvent(QEvent* evento) {
+void TDialogoDatos::changeEvent(QEvent* evento) {
     QDialog::changeEvent(evento);
     if (evento->type() == QEvent::FontChange && isVisible()) PonTamano();
 }

@@ -11,9 +11,9 @@ namespace analizador {
 
 // The window of the party details dialog. It hands over what the user does and then shows what the dialog,
 // which must outlive it, holds; no rule of the dialog is here.
-class DialogoDatos : public QDialog {
+class TDialogoDatos : public QDialog {
   public:
-    DialogoDatos(TFInformacionOtorgante& dialogo, QWidget* padre);
+    TDialogoDatos(TFInformacionOtorgante& dialogo, QWidget* padre);
 
     void reject() override;
 
@@ -42,7 +42,7 @@ class DialogoDatos : public QDialog {
     QScrollArea& zona_;
     QWidget& contenido_;
     QWidget& barra_;
-    ControlesDatosQt controles_;
+    TControlesDatosQt controles_;
     bool ocupado_ = false;
 };
 

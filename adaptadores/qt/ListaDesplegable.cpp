@@ -12,7 +12,7 @@
 
 namespace analizador {
 
-ListaDesplegable::ListaDesplegable(bool editable, int filasVisibles, QWidget* padre) : QComboBox(padre) {
+TListaDesplegable::TListaDesplegable(bool editable, int filasVisibles, QWidget* padre) : QComboBox(padre) {
     setEditable(editable);
     setInsertPolicy(NoInsert);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
@@ -25,20 +25,20 @@ ListaDesplegable::ListaDesplegable(bool editable, int filasVisibles, QWidget* pa
     if (editable) setCompleter(nullptr);
 }
 
-void ListaDesplegable::showPopup() {
+void TListaDesplegable::showPopup() {
     const int barra = view()->verticalScrollBar()->sizeHint().width();
     const int textos = view()->sizeHintForColumn(0) + barra + 2 * view()->frameWidth();
     view()->setMinimumWidth(std::min(textos, screen()->availableGeometry().width()));
     QComboBox::showPopup();
 }
 
-QRect ListaDesplegable::SitioDelTexto() const {
+QRect TListaDesplegable::SitioDelTexto() const {
     QStyleOptionComboBox opcion;
     initStyleOption(&opcion);
     return style()->subControlRect(QStyle::CC_ComboBox, &opcion, QStyle::SC_ComboBoxEditField, this);
 }
 
-void ListaDesplegable::paintEvent(QPaintEvent* evento) {
+void TListaDesplegable::paintEvent(QPaintEvent* evento) {
     if (isEditable()) {
         QComboBox::paintEvent(evento);
         return;
@@ -54,11 +54,11 @@ void ListaDesplegable::paintEvent(QPaintEvent* evento) {
     pintor.drawControl(QStyle::CE_ComboBoxLabel, opcion);
 }
 
-void ListaDesplegable::wheelEvent(QWheelEvent* evento) {
+void TListaDesplegable::wheelEvent(QWheelEvent* evento) {
     evento->ignore();
 }
 
-bool ListaDesplegable::event(QEvent* evento) {
+bool TListaDesplegable::event(QEvent* evento) {
     if (evento->type() != QEvent::ToolTip || !toolTip().isEmpty()) return QComboBox::event(evento);
     const bool cabe = fontMetrics().horizontalAdvance(currentText()) <= SitioDelTexto().width();
     QToolTip::showText(static_cast<QHelpEvent*>(evento)->globalPos(), cabe ? QString() : currentText(), this);

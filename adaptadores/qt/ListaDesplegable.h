@@ -6,10 +6,10 @@ namespace analizador {
 
 // A drop-down list that the wheel leaves alone, that completes and inserts nothing, cuts a long text off with
 // dots in its box and shows it whole in the open list and in its hint.
-class ListaDesplegable : public QComboBox {
+class TListaDesplegable : public QComboBox {
   public:
     // `filasVisibles`: rows of the open list; 0 what the system shows.
-    ListaDesplegable(bool editable, int filasVisibles, QWidget* padre);
+    TListaDesplegable(bool editable, int filasVisibles, QWidget* padre);
 
     void showPopup() override;
 

@@ -24,27 +24,27 @@ constexpr std::array<TColumna, 4> COLUMNAS = {{
 
 }  // namespace
 
-void ModeloMunicipios::Filtra(const QString& texto) {
+void TModeloMunicipios::Filtra(const QString& texto) {
     beginResetModel();
     selector_->Filtra(AnsiDeQt(texto));
     endResetModel();
 }
 
-int ModeloMunicipios::rowCount(const QModelIndex& padre) const {
+int TModeloMunicipios::rowCount(const QModelIndex& padre) const {
     return padre.isValid() ? 0 : static_cast<int>(selector_->Cuenta());
 }
 
-int ModeloMunicipios::columnCount(const QModelIndex& padre) const {
+int TModeloMunicipios::columnCount(const QModelIndex& padre) const {
     return padre.isValid() ? 0 : static_cast<int>(COLUMNAS.size());
 }
 
-QVariant ModeloMunicipios::data(const QModelIndex& indice, int papel) const {
+QVariant TModeloMunicipios::data(const QModelIndex& indice, int papel) const {
     if (papel != Qt::DisplayRole || !indice.isValid()) return {};
     const TMunicipio& fila = selector_->Fila(static_cast<std::size_t>(indice.row()));
     return QtDeAnsi(fila.*COLUMNAS[static_cast<std::size_t>(indice.column())].Campo);
 }
 
-QVariant ModeloMunicipios::headerData(int seccion, Qt::Orientation orientacion, int papel) const {
+QVariant TModeloMunicipios::headerData(int seccion, Qt::Orientation orientacion, int papel) const {
     if (papel != Qt::DisplayRole || orientacion != Qt::Horizontal) return {};
     return QString::fromUtf16(COLUMNAS[static_cast<std::size_t>(seccion)].Titulo);
 }

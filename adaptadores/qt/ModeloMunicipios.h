@@ -9,9 +9,9 @@
 namespace analizador {
 
 // The rows that the picker's filter leaves, as a view of Qt wants them. The picker must outlive it.
-class ModeloMunicipios : public QAbstractTableModel {
+class TModeloMunicipios : public QAbstractTableModel {
   public:
-    explicit ModeloMunicipios(TSelectorMunicipios& selector) : selector_(&selector) {}
+    explicit TModeloMunicipios(TSelectorMunicipios& selector) : selector_(&selector) {}
 
     void Filtra(const QString& texto);
 

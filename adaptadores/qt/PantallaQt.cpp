@@ -15,9 +15,9 @@ namespace analizador {
 
 namespace {
 
-class VentanaProgreso : public QFrame {
+class TVentanaProgreso : public QFrame {
   public:
-    explicit VentanaProgreso(QWidget* padre)
+    explicit TVentanaProgreso(QWidget* padre)
         : QFrame(padre,
                  Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowDoesNotAcceptFocus),
           texto_(HijoDe<QLabel>(this)) {
@@ -64,11 +64,11 @@ class VentanaProgreso : public QFrame {
 
 class TVentanaMensajeQt : public TVentanaMensaje {
   public:
-    TVentanaMensajeQt(std::string_view texto, QWidget* padre) : ventana_(&HijoDe<VentanaProgreso>(padre)) {
+    TVentanaMensajeQt(std::string_view texto, QWidget* padre) : ventana_(&HijoDe<TVentanaProgreso>(padre)) {
         ventana_->Pon(texto);
         ventana_->MuestraSobrePadre();
     }
-    ~TVentanaMensajeQt() override { const std::unique_ptr<VentanaProgreso> cierra(ventana_.data()); }
+    ~TVentanaMensajeQt() override { const std::unique_ptr<TVentanaProgreso> cierra(ventana_.data()); }
     TVentanaMensajeQt(const TVentanaMensajeQt&) = delete;
     TVentanaMensajeQt& operator=(const TVentanaMensajeQt&) = delete;
 
@@ -77,7 +77,7 @@ class TVentanaMensajeQt : public TVentanaMensaje {
     }
 
   private:
-    QPointer<VentanaProgreso> ventana_;  // its Qt parent may destroy it first
+    QPointer<TVentanaProgreso> ventana_;  // its Qt parent may destroy it first
 };
 
 }  // namespace

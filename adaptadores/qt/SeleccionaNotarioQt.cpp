@@ -19,9 +19,9 @@ namespace analizador {
 
 namespace {
 
-class DialogoNotario : public QDialog {
+class TDialogoNotario : public QDialog {
   public:
-    DialogoNotario(const std::vector<std::string>& entradas, int seleccionada, QWidget* padre)
+    TDialogoNotario(const std::vector<std::string>& entradas, int seleccionada, QWidget* padre)
         : QDialog(padre), lista_(HijoDe<QListWidget>(this)) {
         setObjectName(QStringLiteral("FSeleccionaNotario"));
         lista_.setObjectName(QStringLiteral("LBNotarios"));
@@ -59,7 +59,7 @@ class TDialogoNotarioQt : public TFSeleccionaNotario {
         seleccionada_ = existe ? posicion : -1;
     }
     void MuestraModal() override {
-        DialogoNotario dialogo(entradas_, seleccionada_, VentanaPadre());
+        TDialogoNotario dialogo(entradas_, seleccionada_, VentanaPadre());
         dialogo.setWindowTitle(QtDeAnsi(titulo_));
         dialogo.exec();
         seleccionada_ = dialogo.Seleccionada();

@@ -12,11 +12,11 @@
 
 namespace analizador {
 
-VisorXml::VisorXml(QWidget* padre)
+TVisorXml::TVisorXml(QWidget* padre)
     : QWidget(padre),
       aviso_(HijoDe<QLabel>(this)),
       texto_(HijoDe<QPlainTextEdit>(this)),
-      coloreado_(HijoDe<ColoreadoXml>(texto_.document(), texto_.palette())) {
+      coloreado_(HijoDe<TColoreadoXml>(texto_.document(), texto_.palette())) {
     aviso_.setObjectName(QStringLiteral("AvisoXML"));
     aviso_.setTextFormat(Qt::PlainText);
     aviso_.setWordWrap(true);
@@ -34,12 +34,12 @@ VisorXml::VisorXml(QWidget* padre)
     setFocusProxy(&texto_);
 }
 
-void VisorXml::MuestraTexto(const QString& xml) {
+void TVisorXml::MuestraTexto(const QString& xml) {
     const TXmlParaVer visto = XmlParaVer(xml);
     Pon(visto.Texto, visto.Aviso);
 }
 
-void VisorXml::MuestraFichero(const std::filesystem::path& fichero) {
+void TVisorXml::MuestraFichero(const std::filesystem::path& fichero) {
     QFile abierto(fichero);
     if (abierto.open(QIODevice::ReadOnly))
         MuestraTexto(QString::fromStdString(Utf8DeXml(abierto.readAll().toStdString())));
@@ -47,21 +47,21 @@ void VisorXml::MuestraFichero(const std::filesystem::path& fichero) {
         Pon({}, QStringLiteral("No se puede leer el fichero %1.").arg(abierto.fileName()));
 }
 
-void VisorXml::Pon(const QString& texto, const QString& aviso) {
+void TVisorXml::Pon(const QString& texto, const QString& aviso) {
     aviso_.setText(aviso);
     aviso_.setVisible(!aviso.isEmpty());
     texto_.setPlainText(texto);
 }
 
-QString VisorXml::Texto() const {
+QString TVisorXml::Texto() const {
     return texto_.toPlainText();
 }
 
-QString VisorXml::Aviso() const {
+QString TVisorXml::Aviso() const {
     return aviso_.text();
 }
 
-void VisorXml::changeEvent(QEvent* evento) {
+void TVisorXml::changeEvent(QEvent* evento) {
     if (evento->type() == QEvent::PaletteChange) coloreado_.PonPaleta(palette());
     QWidget::changeEvent(evento);
 }

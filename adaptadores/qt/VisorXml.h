@@ -14,9 +14,9 @@ namespace analizador {
 
 // Shows XML, read only: indented and coloured, or as it stands under a line that tells where it is not well
 // formed. Nothing is fetched and no entity replaced.
-class VisorXml : public QWidget {
+class TVisorXml : public QWidget {
   public:
-    explicit VisorXml(QWidget* padre = nullptr);
+    explicit TVisorXml(QWidget* padre = nullptr);
 
     void MuestraTexto(const QString& xml);
     // A file that cannot be read leaves the text empty and is told in the line above.
@@ -34,7 +34,7 @@ class VisorXml : public QWidget {
 
     QLabel& aviso_;
     QPlainTextEdit& texto_;
-    ColoreadoXml& coloreado_;
+    TColoreadoXml& coloreado_;
 };
 
 }  // namespace analizador

@@ -41,7 +41,7 @@ void TVisoresQt::CreateVisorEmbeddedWB(TComponente* propietario, const std::file
     ventana.setAttribute(Qt::WA_QuitOnClose, false);
     ventana.setObjectName(QStringLiteral("VisorEmbeddedWB"));
     ventana.setWindowTitle(QtDeAnsi(titulo));
-    auto& visor = HijoDe<VisorXml>(&ventana);
+    auto& visor = HijoDe<TVisorXml>(&ventana);
     auto& cerrar = HijoDe<QPushButton>(&ventana, QStringLiteral("&Cerrar"));
     auto& disposicion = HijoDe<QVBoxLayout>(&ventana);
     disposicion.addWidget(&visor);

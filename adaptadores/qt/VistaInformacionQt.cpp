@@ -6,7 +6,7 @@
 namespace analizador {
 
 void TVistaInformacionQt::MuestraModal(TFInformacionOtorgante& dialogo, TComponente* propietario) {
-    DialogoDatos ventana(dialogo, VentanaPadre(propietario));
+    TDialogoDatos ventana(dialogo, VentanaPadre(propietario));
     ventana.exec();
 }
 

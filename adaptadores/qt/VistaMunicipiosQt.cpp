@@ -23,9 +23,9 @@ namespace analizador {
 
 namespace {
 
-class DialogoMunicipios : public QDialog {
+class TDialogoMunicipios : public QDialog {
   public:
-    DialogoMunicipios(TSelectorMunicipios& selector, QWidget* padre)
+    TDialogoMunicipios(TSelectorMunicipios& selector, QWidget* padre)
         : QDialog(padre),
           selector_(selector),
           modelo_(selector),
@@ -42,8 +42,8 @@ class DialogoMunicipios : public QDialog {
             modelo_.Filtra(texto);
             MuestraActual();
         });
-        connect(&aceptar_, &QPushButton::clicked, this, &DialogoMunicipios::Acepta);
-        connect(&tabla_, &QTableView::doubleClicked, this, &DialogoMunicipios::Acepta);
+        connect(&aceptar_, &QPushButton::clicked, this, &TDialogoMunicipios::Acepta);
+        connect(&tabla_, &QTableView::doubleClicked, this, &TDialogoMunicipios::Acepta);
         filtro_.setFocus();
     }
 
@@ -138,7 +138,7 @@ class DialogoMunicipios : public QDialog {
     }
 
     TSelectorMunicipios& selector_;
-    ModeloMunicipios modelo_;
+    TModeloMunicipios modelo_;
     QLineEdit& filtro_;
     QTableView& tabla_;
     QPushButton& aceptar_;
@@ -147,7 +147,7 @@ class DialogoMunicipios : public QDialog {
 }  // namespace
 
 bool TVistaMunicipiosQt::MuestraModal(TSelectorMunicipios& selector) {
-    DialogoMunicipios dialogo(selector, VentanaPadre());
+    TDialogoMunicipios dialogo(selector, VentanaPadre());
     return dialogo.exec() == QDialog::Accepted;
 }
 

@@ -22,7 +22,7 @@ class EscenaDialogoDatos : public testing::Test {
     void Abre() {
         Ventana.reset();
         Dialogo.emplace(Otorgante, TEscenaDatos::HOY);
-        Ventana = std::make_unique<DialogoDatos>(*Dialogo, nullptr);
+        Ventana = std::make_unique<TDialogoDatos>(*Dialogo, nullptr);
         Ventana->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(Ventana.get()));
     }
@@ -73,7 +73,7 @@ class EscenaDialogoDatos : public testing::Test {
     TEscenaDatos Escena;
     TROtorgante Otorgante = OtorganteCompleto();
     std::optional<TFInformacionOtorgante> Dialogo;
-    std::unique_ptr<DialogoDatos> Ventana;
+    std::unique_ptr<TDialogoDatos> Ventana;
 };
 
 }  // namespace analizador

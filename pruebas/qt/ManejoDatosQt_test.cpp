@@ -224,8 +224,8 @@ TEST_F(ManejoDatosQt, WheelLeavesAClosedListAlone) {
     EXPECT_EQ(ConFoco(), "EConyuge");
 }
 
-TEST(ListaDesplegable, EnterInsertsNothingIntoItsItems) {
-    ListaDesplegable lista(true, 0, nullptr);
+TEST(TListaDesplegable, EnterInsertsNothingIntoItsItems) {
+    TListaDesplegable lista(true, 0, nullptr);
     lista.addItems({"FRANCIA", "BOLIVIA"});
     lista.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&lista));

@@ -77,7 +77,7 @@ TEST_F(VisoresQt, FilesAreReadInTheEncodingThatTheyDeclare) {
         {QByteArray("\xFF\xFE<\0a\0>\0\xF1\0<\0/\0a\0>\0", 18), QStringLiteral("ñ")},
     };
     for (const auto& caso : casos) {
-        VisorXml visor;
+        TVisorXml visor;
         visor.MuestraFichero(Escribe("a.xml", caso.Bytes));
         EXPECT_TRUE(visor.Texto().endsWith("<a>" + caso.Letras + "</a>")) << visor.Texto().toStdString();
         EXPECT_EQ(visor.Aviso(), QString());
@@ -85,7 +85,7 @@ TEST_F(VisoresQt, FilesAreReadInTheEncodingThatTheyDeclare) {
 }
 
 TEST_F(VisoresQt, MalformedXmlStandsAsItIsUnderALineThatTellsWhere) {
-    VisorXml visor;
+    TVisorXml visor;
     visor.MuestraTexto("<a>\n<b></a>");
     visor.show();
     const auto& aviso = *visor.findChild<QLabel*>("AvisoXML");
@@ -97,7 +97,7 @@ TEST_F(VisoresQt, MalformedXmlStandsAsItIsUnderALineThatTellsWhere) {
 }
 
 TEST_F(VisoresQt, AFileThatCannotBeReadIsTold) {
-    VisorXml visor;
+    TVisorXml visor;
     visor.MuestraFichero(Ruta("no está.xml").toStdU16String());
     EXPECT_EQ(visor.Texto(), QString());
     EXPECT_TRUE(visor.Aviso().startsWith("No se puede leer el fichero ")) << visor.Aviso().toStdString();
@@ -105,7 +105,7 @@ TEST_F(VisoresQt, AFileThatCannotBeReadIsTold) {
 }
 
 // The colours of the letters of the first line, one a letter.
-std::vector<QColor> ColoresDeLetras(const VisorXml& visor) {
+std::vector<QColor> ColoresDeLetras(const TVisorXml& visor) {
     const auto& documento = *visor.findChild<QPlainTextEdit*>()->document();
     std::vector<QColor> colores(static_cast<std::size_t>(documento.firstBlock().length()));
     for (const auto& trozo : documento.firstBlock().layout()->formats())
@@ -124,7 +124,7 @@ double Contraste(const QColor& uno, const QColor& otro) {
 TEST_F(VisoresQt, ColoursTellThePartsApartAndCanBeReadOnLightAndDark) {
     for (const bool oscuro : {false, true}) {
         const QColor fondo = oscuro ? QColor(30, 30, 30) : QColor(255, 255, 255);
-        VisorXml visor;
+        TVisorXml visor;
         QPalette paleta;
         paleta.setColor(QPalette::Base, fondo);
         paleta.setColor(QPalette::Text, oscuro ? Qt::white : Qt::black);
