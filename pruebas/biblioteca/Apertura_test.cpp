@@ -111,7 +111,7 @@ TEST(AperturaBiblioteca, UnaCarpetaRelativaEsLaDeEntonces) {
     ASSERT_NE(sesion, nullptr);
     EXPECT_EQ(analizador_analiza_fichero(sesion.get(), Ejemplo("testamento.docx").c_str(), 0),
               ANALIZADOR_BIEN);
-    EXPECT_EQ(Texto(sesion, "/Cabecera/NumeroProtocolo"), "389");
+    EXPECT_EQ(Texto(sesion, "/Cabecera/NumeroProtocolo"), "470");
 }
 
 TEST(AperturaBiblioteca, CerrarNadaNoEsNada) {

@@ -85,8 +85,9 @@ TEST_F(FallosBiblioteca, TextosNulosOEnOtraCodificacion) {
     EXPECT_EQ(analizador_analiza_fichero(s, nullptr, 0), ANALIZADOR_MAL_USO);
     EXPECT_EQ(analizador_analiza_fichero(s, "", 0), ANALIZADOR_MAL_USO);
     EXPECT_EQ(analizador_pon_variable(s, "XML", nullptr), ANALIZADOR_MAL_USO);
-    EXPECT_EQ(analizador_texto(s, nullptr), nullptr);
     EXPECT_EQ(Error(sesion_), "falta un texto: es nulo");
+    EXPECT_EQ(analizador_texto(s, nullptr), nullptr);
+    EXPECT_EQ(analizador_cuenta(s, nullptr), -1);
     for (const char* malo : {"ESCRITURA N\xDAMERO", "\xC3", "\xED\xA0\x80", "\xC0\x80", "\xF5\x80\x80\x80"}) {
         EXPECT_EQ(analizador_analiza_texto(s, malo, 0), ANALIZADOR_MAL_TEXTO);
         EXPECT_EQ(Error(sesion_), "un texto no está en UTF-8");

@@ -4,6 +4,7 @@
     sesion.py ANFITRIONES EJEMPLOS VOCABULARIES TABLES
 """
 
+import _ctypes
 import pathlib
 import sys
 import unittest
@@ -42,6 +43,23 @@ class Sesion(unittest.TestCase):
             una.analiza_fichero(ejemplos / "testament.docx")
             otra.analiza_fichero(ejemplos / "testamento.docx")
             self.assertEqual((una.texto("/idioma"), otra.texto("/idioma")), ("catalan", "castellano"))
+
+    def test_cargada_de_nuevo_sigue_siendo_la_misma(self):
+        with analizador.Sesion(vocabularios, tablas) as una:
+            otra = analizador.carga()
+            self.assertEqual(otra.analizador_interfaz(), 1)
+            with self.assertRaises(analizador.ErrorAnalizador) as fallo:
+                analizador.Sesion(tablas, tablas)
+            self.assertEqual(fallo.exception.codigo, 4)
+            una.analiza_fichero(ejemplos / "testament.docx")
+
+    def test_descargada_se_puede_cargar_de_nuevo(self):
+        for _ in range(3):
+            sesion = analizador.Sesion(vocabularios, tablas)
+            sesion.analiza_fichero(ejemplos / "testament.docx")
+            self.assertEqual(sesion.texto("/idioma"), "catalan")
+            sesion.cierra()
+            _ctypes.dlclose(sesion._b._handle)
 
 
 unittest.main(argv=sys.argv[:1])
