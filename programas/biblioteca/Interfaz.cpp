@@ -1,6 +1,6 @@
 // The functions of analizador.h; those that differ only in their texts share a template.
 
-#include <optional>
+#include <memory>
 #include <string>
 
 #include "programas/biblioteca/Llamada.h"

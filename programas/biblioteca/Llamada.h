@@ -5,9 +5,9 @@
 
 #include <cfenv>
 #include <exception>
-#include <memory>
 #include <new>
 #include <string>
+#include <vector>
 
 #include "adaptadores/ini/ConfigIni.h"
 #include "programas/biblioteca/ErrorInterfaz.h"

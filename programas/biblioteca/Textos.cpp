@@ -1,5 +1,7 @@
 #include "programas/biblioteca/Textos.h"
 
+#include <utility>
+
 #include "plataforma/Ansi.h"
 #include "programas/biblioteca/ErrorInterfaz.h"
 

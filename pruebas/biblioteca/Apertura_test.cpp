@@ -114,6 +114,25 @@ TEST(AperturaBiblioteca, UnaCarpetaRelativaEsLaDeEntonces) {
     EXPECT_EQ(Texto(sesion, "/Cabecera/NumeroProtocolo"), "470");
 }
 
+TEST(AperturaBiblioteca, SinCarpetasLasDelProgramaAnfitrion) {
+    EXPECT_EQ(Abierta(nullptr, nullptr), nullptr);
+    const auto propia =
+        std::filesystem::canonical("/proc/self/exe").parent_path() / "CONFIG" / "CASTELLANO.INI";
+    EXPECT_STREQ(analizador_error(nullptr), (propia.string() + ": falta ese vocabulario").c_str());
+}
+
+TEST(AperturaBiblioteca, SinTablasLasQueDiceLaOficina) {
+    const TCarpetaTemporal carpeta;
+    std::filesystem::copy(CARPETA_VOCABULARIO, carpeta / "CONFIG");
+    std::ofstream(carpeta / "CONFIG" / "OFICINA.INI") << "[TABLAS]\nCarpeta=" << CARPETA_TABLAS << "\n";
+    const TSesion sesion = Abierta((carpeta / "CONFIG").string().c_str(), nullptr);
+    ASSERT_NE(sesion, nullptr) << analizador_error(nullptr);
+    ASSERT_EQ(analizador_analiza_fichero(sesion.get(), Ejemplo("compravenda.docx").c_str(), 0),
+              ANALIZADOR_BIEN)
+        << Error(sesion);
+    EXPECT_EQ(Texto(sesion, "/Otorgantes/0/CodINE"), "17066");
+}
+
 TEST(AperturaBiblioteca, CerrarNadaNoEsNada) {
     analizador_cierra(nullptr);
     SUCCEED();

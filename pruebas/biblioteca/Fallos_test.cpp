@@ -110,6 +110,19 @@ TEST_F(FallosBiblioteca, OpcionesQueNoVanAhi) {
     EXPECT_EQ(analizador_guarda(s, nullptr, ANALIZADOR_CON_ORIGEN), ANALIZADOR_MAL_USO);
 }
 
+// What nobody foresaw is a failure like the others: here, a current folder that is gone.
+TEST_F(FallosBiblioteca, LoImprevistoTampocoSaleComoExcepcion) {
+    const auto antes = std::filesystem::current_path();
+    {
+        const TCarpetaTemporal carpeta;
+        std::filesystem::current_path(carpeta / "");
+    }
+    const int codigo = analizador_analiza_fichero(sesion_.get(), "escritura.docx", 0);
+    std::filesystem::current_path(antes);
+    EXPECT_EQ(codigo, ANALIZADOR_FALLO);
+    EXPECT_NE(Error(sesion_), "");
+}
+
 TEST_F(FallosBiblioteca, SinVentanasNoHayRevision) {
     const std::string escritura = Ejemplo("testament.docx");
     EXPECT_EQ(analizador_analiza_fichero(sesion_.get(), escritura.c_str(), ANALIZADOR_CON_REVISION),
