@@ -30,12 +30,18 @@ int Abre(int interfaz, const TUnidad* vocabularios, const TUnidad* tablas, anali
 
 template <class TUnidad>
 int AnalizaFichero(analizador_sesion* sesion, const TUnidad* fichero, unsigned opciones) {
-    return LlamaSesion(sesion, [&](auto& suya) { suya.AnalizaFichero(TextoDe(fichero), opciones); });
+    return LlamaSesion(sesion, [&](auto& suya) {
+        suya.Empieza();
+        suya.AnalizaFichero(TextoDe(fichero), opciones);
+    });
 }
 
 template <class TUnidad>
 int AnalizaTexto(analizador_sesion* sesion, const TUnidad* texto, unsigned opciones) {
-    return LlamaSesion(sesion, [&](auto& suya) { suya.AnalizaTexto(TextoDe(texto), opciones); });
+    return LlamaSesion(sesion, [&](auto& suya) {
+        suya.Empieza();
+        suya.AnalizaTexto(TextoDe(texto), opciones);
+    });
 }
 
 template <class TUnidad>

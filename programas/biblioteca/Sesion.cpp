@@ -46,7 +46,8 @@ nlohmann::ordered_json Json(const std::string& archivo, const TAnalisisFichero& 
 
 }  // namespace
 
-void TSesionAnfitrion::Olvida() {
+void TSesionAnfitrion::Empieza() {
+    FActual = std::exchange(FSiguiente, {});
     FResultados.reset();
     FAnalisis.reset();
     FFichero.clear();
@@ -63,8 +64,6 @@ void TSesionAnfitrion::Analiza(const std::string& archivo, unsigned opciones, TQ
 }
 
 void TSesionAnfitrion::AnalizaFichero(const std::string& fichero, unsigned opciones) {
-    Olvida();
-    FSiguiente = {};
     ExigeOpciones(opciones, ANALIZADOR_CON_REVISION | ANALIZADOR_CON_ORIGEN);
     ExigeVentanas(opciones);
     FFichero = RutaDe(fichero);
@@ -72,12 +71,10 @@ void TSesionAnfitrion::AnalizaFichero(const std::string& fichero, unsigned opcio
 }
 
 void TSesionAnfitrion::AnalizaTexto(const std::string& texto, unsigned opciones) {
-    Olvida();
-    auto contenido = std::exchange(FSiguiente, {});
     ExigeOpciones(opciones, ANALIZADOR_CON_REVISION | ANALIZADOR_CON_ORIGEN);
     ExigeVentanas(opciones);
-    contenido.Texto = AnsiDeUtf8(ConFinesDeParrafo(texto));
-    Analiza("", opciones, std::move(contenido));
+    FActual.Texto = AnsiDeUtf8(ConFinesDeParrafo(texto));
+    Analiza("", opciones, std::exchange(FActual, {}));
 }
 
 void TSesionAnfitrion::PonVariable(const std::string& nombre, const std::string& valor) {

@@ -19,6 +19,9 @@ class TSesionAnfitrion {
     // Throws ErrorConfiguracion.
     explicit TSesionAnfitrion(const TCarpetas& carpetas) : FAjustes(carpetas) {}
 
+    // Before every analysis, whatever becomes of it: forgets the results of the one before, and what was set
+    // for a text is from now on this one's alone.
+    void Empieza();
     void AnalizaFichero(const std::string& fichero, unsigned opciones);
     void AnalizaTexto(const std::string& texto, unsigned opciones);
     void PonVariable(const std::string& nombre, const std::string& valor);
@@ -31,12 +34,12 @@ class TSesionAnfitrion {
 
   private:
     void ExigeResultados() const;
-    void Olvida();
     template <class... TQue>
     void Analiza(const std::string& archivo, unsigned opciones, TQue&&... que);
 
     TAjustesCompartidos FAjustes;
     TContenidoDocumento FSiguiente;  // the variables and bookmarks of the text that is analysed next
+    TContenidoDocumento FActual;     // those of this one
     std::filesystem::path FFichero;  // what was analysed; empty when a text
     std::optional<TAnalisisFichero> FAnalisis;
     std::optional<TResultados> FResultados;
