@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 #include <vector>
 
-#include "adaptadores/docx/FicheroDocx.h"
 #include "adaptadores/memoria/DocumentoMemoria.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
@@ -30,14 +30,15 @@ std::string EnUnaLinea(std::string texto) {
     return texto;
 }
 
+constexpr const char* EN_MEMORIA = "texto en memoria";
+
 }  // namespace
 
-TAnalisisFichero::TAnalisisFichero(const std::filesystem::path& fichero, const TOpcionesAnalisis& opciones) {
-    const auto rechaza = [&](const std::string& causa) {
-        FError = EnUnaLinea(fichero.string() + ": " + causa);
-    };
+template <class TAccion>
+void TAnalisisFichero::Intenta(const std::string& deQue, TAccion accion) {
+    const auto rechaza = [&](const std::string& causa) { FError = EnUnaLinea(deQue + ": " + causa); };
     try {
-        Analiza(fichero, opciones);
+        accion();
     } catch (const ErrorDocumento& error) {
         FError = error.what();
     } catch (const ErrorWord& error) {
@@ -51,13 +52,30 @@ TAnalisisFichero::TAnalisisFichero(const std::filesystem::path& fichero, const T
     }
 }
 
-void TAnalisisFichero::Analiza(const std::filesystem::path& fichero, const TOpcionesAnalisis& opciones) {
-    TFicheroDocx docx(fichero);
-    FAplicacion = std::make_unique<TAplicacionMemoria>(std::make_unique<TDocumentoMemoria>(docx.Contenido()));
+TAnalisisFichero::TAnalisisFichero(const std::filesystem::path& fichero, const TOpcionesAnalisis& opciones) {
+    Intenta(fichero.string(), [&] {
+        FDocx.emplace(fichero);
+        Analiza(FDocx->Contenido(), opciones);
+        if (opciones.Salida && (FSesion->Aceptado || !opciones.Revisa))
+            Guarda(*opciones.Salida, opciones.Forzar);
+    });
+}
+
+TAnalisisFichero::TAnalisisFichero(TContenidoDocumento contenido, const TOpcionesAnalisis& opciones) {
+    Intenta(EN_MEMORIA, [&] { Analiza(std::move(contenido), opciones); });
+}
+
+void TAnalisisFichero::Analiza(TContenidoDocumento contenido, const TOpcionesAnalisis& opciones) {
+    FAplicacion =
+        std::make_unique<TAplicacionMemoria>(std::make_unique<TDocumentoMemoria>(std::move(contenido)));
     FSesion = std::make_unique<TClassAnalizadorAbierto>(nullptr, FAplicacion.get());
-    const bool aceptado = FSesion->Analiza(!opciones.Revisa);
-    if (opciones.Salida && (aceptado || !opciones.Revisa))
-        docx.Guarda(MarcadoresDeSecciones(*FSesion), *opciones.Salida, {.Forzar = opciones.Forzar});
+    FSesion->Analiza(!opciones.Revisa);
+}
+
+void TAnalisisFichero::Guarda(const std::filesystem::path& destino, bool forzar) {
+    if (!FDocx)
+        throw ErrorDocumento(std::string(EN_MEMORIA) + ": no hay fichero al que poner los marcadores");
+    FDocx->Guarda(MarcadoresDeSecciones(*FSesion), destino, {.Forzar = forzar});
 }
 
 }  // namespace analizador

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "adaptadores/docx/FicheroDocx.h"
 #include "analizador/ClaseAnalizadorAbierto.h"
 #include "plataforma/VrkWord.h"
 
@@ -17,11 +18,18 @@ struct TOpcionesAnalisis {
     bool Revisa = false;  // windows are installed: the user reviews, and only what was accepted is saved
 };
 
-// A deed file analysed: the session with its results, or why it could not be.
+// A deed analysed: the session with its results, or why it could not be.
 class TAnalisisFichero {
   public:
     // Never throws for what is wrong with the file or the tables: see Error().
     TAnalisisFichero(const std::filesystem::path& fichero, const TOpcionesAnalisis& opciones);
+
+    // The same of a deed that is in no file, so that `opciones.Salida` has no meaning.
+    TAnalisisFichero(TContenidoDocumento contenido, const TOpcionesAnalisis& opciones);
+
+    // Saves the file that was analysed with the bookmarks of its sections, as TFicheroDocx::Guarda. Only
+    // without an error. Throws ErrorDocumento, also when the deed is in no file.
+    void Guarda(const std::filesystem::path& destino, bool forzar);
 
     // One line of Castilian in UTF-8 that names file and cause; empty when all went well.
     [[nodiscard]] const std::string& Error() const { return FError; }
@@ -34,9 +42,12 @@ class TAnalisisFichero {
     [[nodiscard]] const TWordDocumentoCustom& Documento() const { return *FSesion->GetDocumento(); }
 
   private:
-    void Analiza(const std::filesystem::path& fichero, const TOpcionesAnalisis& opciones);
+    template <class TAccion>
+    void Intenta(const std::string& deQue, TAccion accion);
+    void Analiza(TContenidoDocumento contenido, const TOpcionesAnalisis& opciones);
 
     std::string FError;
+    std::optional<TFicheroDocx> FDocx;
     std::unique_ptr<TWordApplicationConDocumentos> FAplicacion;
     std::unique_ptr<TClassAnalizadorAbierto> FSesion;
 };

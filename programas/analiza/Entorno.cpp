@@ -57,7 +57,7 @@ void EligeVocabularios(const std::optional<fs::path>& config) {
     ExigeVocabulario(Rutas().CATALAN_INI);
 }
 
-TEntorno::TEntorno(const std::optional<fs::path>& config, const std::optional<fs::path>& tablas)
-    : FConfig(LeeConfig(config)), FTablas(ElegidaDe(tablas, FConfig)) {}
+TAjustesOficina::TAjustesOficina(const std::optional<fs::path>& config, const std::optional<fs::path>& tablas)
+    : FConfig(LeeConfig(config)), FCarpetaTablas(ElegidaDe(tablas, FConfig)), FTablas(FCarpetaTablas) {}
 
 }  // namespace analizador

@@ -13,20 +13,37 @@ namespace analizador {
 // share folder. Throws ErrorConfiguracion when it is no folder or lacks one of them.
 void EligeVocabularios(const std::optional<std::filesystem::path>& config);
 
-// The suite as a stand-alone office has it, installed for as long as this object lives.
-class TEntorno {
+// The settings and the tables of an office, installed for as long as this object lives. No windows: nobody
+// accepts a review.
+class TAjustesOficina {
   public:
     // `config`: the folder of the token files and OFICINA.INI, as EligeVocabularios has it. `tablas`: the
     // folder of the reference tables; by default the one that OFICINA.INI says. Throws ErrorConfiguracion.
-    TEntorno(const std::optional<std::filesystem::path>& config,
-             const std::optional<std::filesystem::path>& tablas);
+    TAjustesOficina(const std::optional<std::filesystem::path>& config,
+                    const std::optional<std::filesystem::path>& tablas);
+
+    // The folder of the reference tables in use.
+    [[nodiscard]] const std::filesystem::path& CarpetaTablas() const { return FCarpetaTablas; }
 
   private:
     TConfigIni FConfig;
+    std::filesystem::path FCarpetaTablas;
     TProveedorDbase FTablas;
-    TPantallaConsola FPantalla;
     InstalaConfig FInstalaConfig{FConfig};
     InstalaTablas FInstalaTablas{FTablas};
+};
+
+// The suite as a stand-alone office has it at a terminal, installed for as long as this object lives.
+class TEntorno {
+  public:
+    // As TAjustesOficina.
+    TEntorno(const std::optional<std::filesystem::path>& config,
+             const std::optional<std::filesystem::path>& tablas)
+        : FAjustes(config, tablas) {}
+
+  private:
+    TAjustesOficina FAjustes;
+    TPantallaConsola FPantalla;
     InstalaPantalla FInstalaPantalla{FPantalla};
 };
 

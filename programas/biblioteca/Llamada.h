@@ -1,0 +1,93 @@
+#pragma once
+
+// What every call from a host has in common: nothing is thrown, the reason of a failure is kept, and the
+// host's floating-point settings (some trap what is harmless here) are put aside.
+
+#include <cfenv>
+#include <exception>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "adaptadores/ini/ConfigIni.h"
+#include "programas/biblioteca/ErrorInterfaz.h"
+#include "programas/biblioteca/Sesion.h"
+#include "programas/biblioteca/analizador.h"
+
+namespace analizador {
+
+// Why the last call failed, in both encodings; empty when it did not.
+class TMotivo {
+  public:
+    void Olvida() noexcept;
+    // Without memory for the text a fixed one stands for it.
+    void Pon(const char* motivo) noexcept;
+
+    [[nodiscard]] const char* Texto() const { return FTexto.c_str(); }
+    [[nodiscard]] const analizador_utf16* Texto16() const;
+
+  private:
+    std::string FTexto;
+    std::vector<analizador_utf16> FTexto16;
+};
+
+// That of the calls of this thread that have no session.
+[[nodiscard]] TMotivo& MotivoDelHilo();
+
+}  // namespace analizador
+
+struct analizador_sesion {
+    explicit analizador_sesion(const analizador::TCarpetas& carpetas) : Sesion(carpetas) {}
+
+    analizador::TSesionAnfitrion Sesion;
+    analizador::TMotivo Motivo;
+};
+
+namespace analizador {
+
+class TComaFlotantePropia {
+  public:
+    TComaFlotantePropia() {
+        std::fegetenv(&FDelAnfitrion);
+        std::fesetenv(FE_DFL_ENV);
+    }
+    ~TComaFlotantePropia() { std::fesetenv(&FDelAnfitrion); }
+    TComaFlotantePropia(const TComaFlotantePropia&) = delete;
+    TComaFlotantePropia& operator=(const TComaFlotantePropia&) = delete;
+
+  private:
+    std::fenv_t FDelAnfitrion{};
+};
+
+// Runs `accion`; the code of its failure, whose reason goes to `motivo`, or ANALIZADOR_BIEN.
+template <class TAccion>
+int Llama(TMotivo& motivo, TAccion accion) noexcept {
+    const TComaFlotantePropia propia;
+    motivo.Olvida();
+    try {
+        accion();
+        return ANALIZADOR_BIEN;
+    } catch (const ErrorInterfaz& error) {
+        motivo.Pon(error.what());
+        return error.Codigo();
+    } catch (const ErrorConfiguracion& error) {
+        motivo.Pon(error.what());
+        return ANALIZADOR_CONFIGURACION;
+    } catch (const std::bad_alloc&) {
+        motivo.Pon("no hay memoria");
+    } catch (const std::exception& error) {
+        motivo.Pon(error.what());
+    } catch (...) {
+        motivo.Pon("fallo inesperado");
+    }
+    return ANALIZADOR_FALLO;
+}
+
+// The same with the session of a call, which may be null.
+template <class TAccion>
+int LlamaSesion(analizador_sesion* sesion, TAccion accion) noexcept {
+    if (sesion != nullptr) return Llama(sesion->Motivo, [&] { accion(sesion->Sesion); });
+    return Llama(MotivoDelHilo(), [] { throw ErrorInterfaz(ANALIZADOR_MAL_USO, "la sesión es nula"); });
+}
+
+}  // namespace analizador

@@ -1,0 +1,110 @@
+#include "programas/biblioteca/Sesion.h"
+
+#include <utility>
+
+#include "dialogos/ListaConceptosPreseleccionados.h"
+#include "plataforma/Ansi.h"
+#include "programas/analiza/SalidaJson.h"
+#include "programas/biblioteca/ErrorInterfaz.h"
+#include "programas/biblioteca/Textos.h"
+#include "programas/biblioteca/analizador.h"
+
+namespace analizador {
+
+namespace {
+
+void ExigeOpciones(unsigned opciones, unsigned permitidas) {
+    if ((opciones & ~permitidas) != 0)
+        throw ErrorInterfaz(ANALIZADOR_MAL_USO, "opciones que no se conocen o no van aquí");
+}
+
+void ExigeVentanas(unsigned opciones) {
+    if ((opciones & ANALIZADOR_CON_REVISION) != 0 && InstalaVistaPreseleccion::Actual() == nullptr)
+        throw ErrorInterfaz(ANALIZADOR_SIN_VENTANAS, "no hay ventanas instaladas para la revisión");
+}
+
+// Every paragraph ends in CR, whichever line end the host uses.
+std::string ConFinesDeParrafo(const std::string& texto) {
+    std::string plano;
+    plano.reserve(texto.size());
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        const bool trasCr = i > 0 && texto[i - 1] == '\r';
+        if (texto[i] != '\n')
+            plano += texto[i];
+        else if (!trasCr)
+            plano += '\r';
+    }
+    return plano;
+}
+
+}  // namespace
+
+void TSesionAnfitrion::Empieza() {
+    FActual = std::exchange(FSiguiente, {});
+    FResultados.reset();
+    FAnalisis.reset();
+    FFichero.clear();
+}
+
+// The JSON is made at once: the language is the thread's until another deed is analysed on it.
+template <class... TQue>
+void TSesionAnfitrion::Analiza(const std::string& archivo, unsigned opciones, TQue&&... que) {
+    TOpcionesAnalisis pedido;
+    pedido.Revisa = (opciones & ANALIZADOR_CON_REVISION) != 0;
+    FAnalisis.emplace(std::forward<TQue>(que)..., pedido);
+    if (!FAnalisis->Error().empty()) throw ErrorInterfaz(ANALIZADOR_NO_ANALIZADA, FAnalisis->Error());
+    const TPedidoJson json{.Origen = (opciones & ANALIZADOR_CON_ORIGEN) != 0, .Revisado = pedido.Revisa};
+    FResultados.emplace(nlohmann::ordered_json::parse(LineaJson(archivo, *FAnalisis, json)));
+}
+
+void TSesionAnfitrion::AnalizaFichero(const std::string& fichero, unsigned opciones) {
+    ExigeOpciones(opciones, ANALIZADOR_CON_REVISION | ANALIZADOR_CON_ORIGEN);
+    ExigeVentanas(opciones);
+    FFichero = RutaDe(fichero);
+    Analiza(fichero, opciones, FFichero);
+}
+
+void TSesionAnfitrion::AnalizaTexto(const std::string& texto, unsigned opciones) {
+    ExigeOpciones(opciones, ANALIZADOR_CON_REVISION | ANALIZADOR_CON_ORIGEN);
+    ExigeVentanas(opciones);
+    FActual.Texto = AnsiDeUtf8(ConFinesDeParrafo(texto));
+    Analiza("", opciones, std::exchange(FActual, {}));
+}
+
+void TSesionAnfitrion::PonVariable(const std::string& nombre, const std::string& valor) {
+    FSiguiente.Variables.push_back({AnsiDeUtf8(nombre), AnsiDeUtf8(valor)});
+}
+
+void TSesionAnfitrion::PonMarcador(const std::string& nombre) {
+    FSiguiente.Marcadores.push_back({AnsiDeUtf8(nombre), {}});
+}
+
+void TSesionAnfitrion::ExigeResultados() const {
+    if (!FResultados)
+        throw ErrorInterfaz(ANALIZADOR_SIN_RESULTADOS, "no hay ninguna escritura analizada en la sesión");
+}
+
+TResultados& TSesionAnfitrion::Resultados() {
+    ExigeResultados();
+    return *FResultados;
+}
+
+bool TSesionAnfitrion::Aceptada() const {
+    ExigeResultados();
+    return FAnalisis->Sesion().Aceptado;
+}
+
+void TSesionAnfitrion::Guarda(const std::optional<std::filesystem::path>& destino, unsigned opciones) {
+    ExigeOpciones(opciones, ANALIZADOR_FORZAR);
+    ExigeResultados();
+    if (FFichero.empty())
+        throw ErrorInterfaz(ANALIZADOR_SIN_RESULTADOS,
+                            "lo analizado es un texto: no hay fichero que guardar");
+    try {
+        FAnalisis->Guarda(destino.value_or(FFichero), (opciones & ANALIZADOR_FORZAR) != 0);
+    } catch (const ErrorDocumento& error) {
+        throw ErrorInterfaz(ANALIZADOR_NO_GUARDADA, error.what());
+    }
+}
+
+}  // namespace analizador
