@@ -216,7 +216,7 @@ TEST_F(Orden, LaFilaFueraDeSuSitioSeDescubreAlPasarPorElla) {
 }
 
 TEST_F(Orden, VariasFilasFueraDeSuSitioSeDescubren) {
-    for (const std::size_t cuantas : {2, 9, 16}) {
+    for (const std::size_t cuantas : {2U, 9U, 16U}) {
         std::vector<std::string> nombres = EnOrden();
         for (std::size_t i = 0; i < cuantas; ++i)
             nombres[MEDIA - cuantas / 2 + i] = "90000" + Numero(i).substr(5);

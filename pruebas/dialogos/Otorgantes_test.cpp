@@ -5,6 +5,7 @@
 #include "dialogos/InformacionOtorgante.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
+#include "pruebas/comun/Literales.h"
 #include "pruebas/dialogos/EscenaPreseleccion.h"
 
 namespace analizador {
@@ -201,7 +202,7 @@ TEST_F(Detalles, UnaTablaQueFallaSeAvisaYTodoQuedaIgual) {
     escena_.Tablas.Quita("PROVIN.DBF");  // needed before anything is shown
     dialogo_->VerOtorgante(TControl::LBOtorgantes);
     EXPECT_EQ(empleado_.Vistos, (TTextos{"ANA"}));
-    const std::string titulo(" ATENCIÓN:"_ansi);
+    const std::string titulo(" ATENCIÓN:"_a);
     EXPECT_EQ(escena_.Mensajes.Mostrados,
               (std::vector<std::pair<std::string, std::string>>{{titulo, "MUNICIPI no se lee"},
                                                                 {titulo, "La tabla PROVIN.DBF no existe"}}));

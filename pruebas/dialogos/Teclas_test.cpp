@@ -160,7 +160,7 @@ TEST(Titulos, UnaTablaQueFallaSeAvisaYTodoQuedaIgual) {
     dialogo->dbgTipos.PonActual(2);
     dialogo->ClicTitulo(TColumnaTipos::NUMEROTIPO);
     dialogo->eBuscaChange("10");
-    const std::pair aviso(std::string(" ATENCIÓN:"_ansi), std::string("La tabla TIPOS.DBF no existe"));
+    const std::pair aviso(std::string(" ATENCIÓN:"_a), std::string("La tabla TIPOS.DBF no existe"));
     EXPECT_EQ(escena.Mensajes.Mostrados, (std::vector{aviso, aviso}));
     EXPECT_EQ(dialogo->dbgTipos.Orden(), TColumnaTipos::TIPO);
     EXPECT_EQ(TipoActual(dialogo->dbgTipos), "PRESTAMO HIPOTECARIO");
