@@ -1,11 +1,12 @@
 #include "modelo/ListaOtorgantes.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace analizador {
@@ -60,19 +61,30 @@ TOrigenes DeLosCamposIguales(TOrigenes origenes, const TROtorgante& antes, const
     return origenes;
 }
 
-// The line of the party that a reviewed record was; the number of lines when it is a new one.
-std::size_t LineaDe(const TROtorgante& revisado, const ListaTextos<TROtorgante>& lista) {
-    const auto primera = [&](auto condicion) {
-        const auto linea = std::find_if(lista.begin(), lista.end(), condicion);
-        return static_cast<std::size_t>(linea - lista.begin());
-    };
-    const std::size_t linea = primera([&, nombre = revisado.NombreOtorgante()](const auto& l) {
-        return l.Objeto && l.Objeto->NombreOtorgante() == nombre;
-    });
-    if (linea < lista.Cuenta() || revisado.NumDocumento.empty()) return linea;
-    return primera(
-        [&](const auto& l) { return l.Objeto && l.Objeto->NumDocumento == revisado.NumDocumento; });
-}
+// The first line of each name and of each document.
+class TLineasPorClave {
+  public:
+    explicit TLineasPorClave(const ListaTextos<TROtorgante>& lista) {
+        for (std::size_t i = 0; i < lista.Cuenta(); ++i) {
+            if (!lista[i].Objeto) continue;
+            FPorNombre.try_emplace(lista[i].Objeto->NombreOtorgante(), i);
+            if (!lista[i].Objeto->NumDocumento.empty())
+                FPorDocumento.try_emplace(lista[i].Objeto->NumDocumento, i);
+        }
+    }
+    // That of the party that a reviewed record was.
+    [[nodiscard]] std::optional<std::size_t> De(const TROtorgante& revisado) const {
+        if (const auto linea = FPorNombre.find(revisado.NombreOtorgante()); linea != FPorNombre.end())
+            return linea->second;
+        if (const auto linea = FPorDocumento.find(revisado.NumDocumento); linea != FPorDocumento.end())
+            return linea->second;
+        return std::nullopt;
+    }
+
+  private:
+    std::unordered_map<std::string, std::size_t> FPorNombre;
+    std::unordered_map<std::string, std::size_t> FPorDocumento;
+};
 
 }  // namespace
 
@@ -94,12 +106,12 @@ TOrigenes& TListaOtorgantes::OrigenesDe(const TROtorgante& otorgante) {
 }
 
 void TListaOtorgantes::Sustituye(ListaTextos<TROtorgante> otros) {
+    const TLineasPorClave lineas(Lista);
     std::vector<TOrigenes> origenes(otros.Cuenta());
     for (std::size_t i = 0; i < otros.Cuenta(); ++i) {
         if (!otros[i].Objeto) continue;
-        const std::size_t linea = LineaDe(*otros[i].Objeto, Lista);
-        if (linea < Lista.Cuenta())
-            origenes[i] = DeLosCamposIguales(Origenes[linea], *Lista[linea].Objeto, *otros[i].Objeto);
+        if (const auto linea = lineas.De(*otros[i].Objeto))
+            origenes[i] = DeLosCamposIguales(Origenes[*linea], *Lista[*linea].Objeto, *otros[i].Objeto);
     }
     Lista = std::move(otros);
     Origenes = std::move(origenes);
