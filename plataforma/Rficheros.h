@@ -17,8 +17,8 @@ namespace analizador {
 [[nodiscard]] std::filesystem::path RutaPrograma();
 
 // A new, empty file that only this user can read, with an unguessable name that begins with `prefijo` and
-// ends in "." and `extension`, in `carpeta` (empty: the system's folder for temporary files). It belongs to
-// the caller, who removes it. Throws std::filesystem::filesystem_error.
+// ends in "." and `extension`, in `carpeta` (empty: CarpetaPrivada(), which goes with the process). It
+// belongs to the caller, who removes it. Throws std::filesystem::filesystem_error.
 [[nodiscard]] std::filesystem::path FicheroTemporal_(const std::filesystem::path& carpeta,
                                                      std::string_view prefijo, std::string_view extension);
 

@@ -1,16 +1,21 @@
 // What the system alone knows, for systems with POSIX files.
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <chrono>
+#include <memory>
 #include <random>
 #include <string>
 #include <system_error>
+#include <utility>
 
+#include "plataforma/CarpetaPrivada.h"
 #include "plataforma/Rficheros.h"
+#include "plataforma/Sistema.h"
 
 namespace analizador {
 
@@ -35,7 +40,52 @@ std::string NombreAlAzar() {
     return nombre;
 }
 
+class TCerrojoPosix : public TCerrojo {
+  public:
+    explicit TCerrojoPosix(int abierta) : FAbierta(abierta) {}
+    ~TCerrojoPosix() override { close(FAbierta); }
+    TCerrojoPosix(const TCerrojoPosix&) = delete;
+    TCerrojoPosix& operator=(const TCerrojoPosix&) = delete;
+
+    [[nodiscard]] bool Cierra(int modo) const {
+        int hecho = 0;
+        do hecho = flock(FAbierta, modo);
+        while (hecho != 0 && errno == EINTR);
+        return hecho == 0;
+    }
+    // True when the path leads to what was opened, and it is this user's.
+    [[nodiscard]] bool EsPropia(const std::filesystem::path& carpeta) const {
+        struct stat abierta {};
+        struct stat ahora {};
+        return fstat(FAbierta, &abierta) == 0 && lstat(carpeta.c_str(), &ahora) == 0 &&
+               abierta.st_dev == ahora.st_dev && abierta.st_ino == ahora.st_ino &&
+               abierta.st_uid == geteuid();
+    }
+
+  private:
+    int FAbierta;
+};
+
 }  // namespace
+
+std::filesystem::path CreaCarpetaSecreta(const std::filesystem::path& donde, std::string_view prefijo) {
+    for (;;) {
+        auto carpeta = donde / std::string(prefijo).append(NombreAlAzar());
+        if (mkdir(carpeta.c_str(), S_IRWXU) == 0) return carpeta;
+        const std::error_code error(errno, std::generic_category());
+        if (error != std::errc::file_exists)
+            throw std::filesystem::filesystem_error("No se puede crear una carpeta temporal", carpeta, error);
+    }
+}
+
+std::unique_ptr<TCerrojo> BloqueaCarpeta(const std::filesystem::path& carpeta, TEspera espera) {
+    const int abierta = open(carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    if (abierta < 0) return nullptr;
+    auto cerrojo = std::make_unique<TCerrojoPosix>(abierta);
+    // Looked at once locked: until then another process may have removed it.
+    if (!cerrojo->Cierra(espera == TEspera::Si ? LOCK_EX : LOCK_EX | LOCK_NB)) return nullptr;
+    return cerrojo->EsPropia(carpeta) ? std::move(cerrojo) : nullptr;
+}
 
 std::filesystem::path RutaPrograma() {
     std::error_code error;
@@ -44,7 +94,7 @@ std::filesystem::path RutaPrograma() {
 
 std::filesystem::path FicheroTemporal_(const std::filesystem::path& carpeta, std::string_view prefijo,
                                        std::string_view extension) {
-    const auto donde = carpeta.empty() ? std::filesystem::temp_directory_path() : carpeta;
+    const auto donde = carpeta.empty() ? CarpetaPrivada() : carpeta;
     for (;;) {
         std::string nombre(prefijo);
         nombre.append(NombreAlAzar()).append(".").append(extension);

@@ -8,6 +8,8 @@
 #include <set>
 #include <string>
 
+#include "plataforma/CarpetaPrivada.h"
+
 namespace analizador {
 namespace {
 
@@ -70,9 +72,9 @@ TEST_F(FicherosPrueba, TemporalesDistintosYLargosDeAdivinar) {
     for (const auto& nombre : nombres) EXPECT_GE(nombre.stem().native().size(), 32U);
 }
 
-TEST_F(FicherosPrueba, TemporalEnLaCarpetaDelSistema) {
+TEST_F(FicherosPrueba, TemporalEnLaCarpetaPrivada) {
     const auto fichero = FicheroTemporal_("", "NUM", "xml");
-    EXPECT_TRUE(fs::equivalent(fichero.parent_path(), fs::temp_directory_path()));
+    EXPECT_EQ(fichero.parent_path(), CarpetaPrivada());
     fs::remove(fichero);
 }
 
