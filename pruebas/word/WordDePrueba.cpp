@@ -15,7 +15,7 @@ std::u16string Utf16(std::string_view texto) {
     return Utf16DeUtf8(Utf8DeAnsi(texto));
 }
 
-// Of this user, under the classes; never over another Word's.
+// Never over another Word. Among the machine's classes, because Wine does not look among the user's.
 void Registra() {
     CLSID otra{};
     if (SUCCEEDED(CLSIDFromProgID(L"Word.Application", &otra))) {
@@ -24,7 +24,7 @@ void Registra() {
     }
     wchar_t clase[64] = {};
     const int longitud = StringFromGUID2(CLASE_DE_PRUEBA, clase, static_cast<int>(std::size(clase)));
-    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Classes\\Word.Application\\CLSID", nullptr, REG_SZ, clase,
+    RegSetKeyValueW(HKEY_CLASSES_ROOT, L"Word.Application\\CLSID", nullptr, REG_SZ, clase,
                     static_cast<DWORD>(sizeof(wchar_t) * static_cast<std::size_t>(longitud)));
 }
 

@@ -11,7 +11,7 @@
 
 namespace analizador::pruebas {
 
-// What the tests register as Word's class, for this user.
+// What the tests register as Word's class.
 inline constexpr CLSID CLASE_DE_PRUEBA = {
     0x5e7a11c0, 0x1111, 0x4222, {0x93, 0x33, 0x44, 0x44, 0x55, 0x55, 0x66, 0x66}};
 
