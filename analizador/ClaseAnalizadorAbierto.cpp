@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <utility>
 
 #include "analizador/ConstAnalizador.h"
@@ -10,7 +11,9 @@
 #include "analizador/Parrafos.h"
 #include "dialogos/ListaConceptosPreseleccionados.h"
 #include "plataforma/Ansi.h"
+#include "plataforma/Mensaje.h"
 #include "plataforma/Rnumcad.h"
+#include "plataforma/Ruttb.h"
 #include "rutinas/RutAnalizador.h"
 
 namespace analizador {
@@ -154,21 +157,43 @@ void TClassAnalizadorAbierto::EliminaOtorgantesDuplicados() {
     Otorgantes = UneOtorgantesDuplicados(OtorgantesEncontrados);
 }
 
+namespace {
+
+void MarcaLosDelXml(ListaTextos<TROtorgante>& otorgantes, std::string_view xml) {
+    if (xml.empty()) return;
+    for (auto& [nombre, otorgante] : otorgantes)
+        if (Pos(otorgante->NumDocumento, xml) != 0) otorgante->EnXML = true;
+}
+
+// Without its table there is no dialog: nullptr once the user was told.
+std::unique_ptr<TFListaConceptosPreseleccionados> CreaDialogo(const std::string& informe,
+                                                              const std::string& xml) {
+    try {
+        return std::make_unique<TFListaConceptosPreseleccionados>(informe, xml);
+    } catch (const ErrorTabla& error) {
+        if (InstalaMensajes::Actual() == nullptr) throw;
+        Mensajes(TITULO_ATENCION, error.what());
+        return nullptr;
+    }
+}
+
+}  // namespace
+
 bool TClassAnalizadorAbierto::ListaConceptosPreseleccionados() {
     const std::string xml = Documento().VariableValor("XML");
-    if (!xml.empty())
-        for (auto& [nombre, otorgante] : Otorgantes.Lista)
-            if (Pos(otorgante->NumDocumento, xml) != 0) otorgante->EnXML = true;
+    MarcaLosDelXml(Otorgantes.Lista, xml);
+    if (InstalaVistaPreseleccion::Actual() == nullptr) return false;
 
-    TFListaConceptosPreseleccionados dialogo(Pizarra, xml);
-    dialogo.CargaListaPosiblesConceptos(Cabecera.Conceptos);
-    dialogo.CargaListaPosiblesOtorgantes(Otorgantes.Lista);
-    dialogo.SeleccionaTodosLosOtorgantesValidos();
-    if (!dialogo.MuestraModal(Propietario)) return false;
+    const auto dialogo = CreaDialogo(Pizarra, xml);
+    if (!dialogo) return false;
+    dialogo->CargaListaPosiblesConceptos(Cabecera.Conceptos);
+    dialogo->CargaListaPosiblesOtorgantes(Otorgantes.Lista);
+    dialogo->SeleccionaTodosLosOtorgantesValidos();
+    if (!dialogo->MuestraModal(Propietario)) return false;
 
-    dialogo.RecogeListaConceptosValidos(ConceptosValidos);
+    dialogo->RecogeListaConceptosValidos(ConceptosValidos);
     ListaTextos<TROtorgante> elegidos;
-    dialogo.RecogeListaOtorgantesValidos(elegidos);
+    dialogo->RecogeListaOtorgantesValidos(elegidos);
     Otorgantes.Sustituye(std::move(elegidos));
     return true;
 }

@@ -1,8 +1,9 @@
 // The report of an analysis: a fixed layout of labelled lines for people.
 
+#include "analizador/Pizarra.h"
+
 #include <array>
 
-#include "analizador/ClaseAnalizadorAbierto.h"
 #include "analizador/ConstAnalizador.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Rnumcad.h"
@@ -104,24 +105,30 @@ void EscribeOtorgante(TPizarra& pizarra, const TROtorgante& otorgante) {
 
 }  // namespace
 
-void TClassAnalizadorAbierto::RellenaPizarra() {
-    TPizarra pizarra(Pizarra);
+std::string TextoPizarra(const TClassAnalizadorAbierto& sesion, const ListaTextos<TRConcepto>& conceptos) {
+    std::string texto;
+    TPizarra pizarra(texto);
     pizarra.Linea(EsCastellano() ? "ESCRITURA EN CASTELLANO" : "ESCRITURA EN CATALAN");
-    pizarra.Dato("NUMERO       : ", Int_Cad(Cabecera.NumeroProtocolo));
-    pizarra.Dato("FECHA        : ", Cabecera.Fecha);
-    pizarra.Dato("LUGAR        : ", Cabecera.Abreviatura);
-    pizarra.Dato("NOTARIO      : ", Cabecera.Notario);
-    pizarra.Dato("SUSTITUTO    : ", Cabecera.NotarioSustituto);
-    pizarra.Dato("EMPLEADO     : ", Empleado);
+    pizarra.Dato("NUMERO       : ", Int_Cad(sesion.Cabecera.NumeroProtocolo));
+    pizarra.Dato("FECHA        : ", sesion.Cabecera.Fecha);
+    pizarra.Dato("LUGAR        : ", sesion.Cabecera.Abreviatura);
+    pizarra.Dato("NOTARIO      : ", sesion.Cabecera.Notario);
+    pizarra.Dato("SUSTITUTO    : ", sesion.Cabecera.NotarioSustituto);
+    pizarra.Dato("EMPLEADO     : ", sesion.Empleado);
     pizarra.Linea();
     pizarra.Linea("CONCEPTOS");
     pizarra.Linea("---------");
-    for (const auto& linea : Cabecera.Conceptos) pizarra.Linea(linea.Texto);
+    for (const auto& linea : conceptos) pizarra.Linea(linea.Texto);
     pizarra.Linea();
     pizarra.Linea("OTORGANTES");
     pizarra.Linea("----------");
-    for (const auto& linea : Otorgantes.Lista)
+    for (const auto& linea : sesion.Otorgantes.Lista)
         if (linea.Objeto) EscribeOtorgante(pizarra, *linea.Objeto);
+    return texto;
+}
+
+void TClassAnalizadorAbierto::RellenaPizarra() {
+    Pizarra += TextoPizarra(*this, Cabecera.Conceptos);
 }
 
 }  // namespace analizador

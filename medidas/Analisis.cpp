@@ -1,5 +1,6 @@
 // How long the analysis of a deed takes: the whole program from its start, and the analysis alone in a
-// process that is warm, on the deed as it is and with its recitals repeated to ten times the length.
+// process that is warm, on the deed as it is and with its recitals repeated to ten times the length. With the
+// environment variable OTRAS_TABLAS also on the tables of that folder, to compare both in one run.
 
 #include <benchmark/benchmark.h>
 
@@ -7,6 +8,7 @@
 #include <filesystem>
 #include <string>
 
+#include "adaptadores/dbase/ProveedorDbase.h"
 #include "adaptadores/docx/FicheroDocx.h"
 #include "adaptadores/memoria/DocumentoMemoria.h"
 #include "analizador/ClaseAnalizadorAbierto.h"
@@ -33,9 +35,7 @@ TContenidoDocumento Escritura(std::int64_t veces) {
     return contenido;
 }
 
-void EnCaliente(benchmark::State& estado) {
-    (void)Entorno();
-    const TContenidoDocumento contenido = Escritura(estado.range(0));
+void Analiza(benchmark::State& estado, const TContenidoDocumento& contenido) {
     for (auto _ : estado) {
         TAplicacionMemoria aplicacion(std::make_unique<TDocumentoMemoria>(contenido));
         TClassAnalizadorAbierto sesion(nullptr, &aplicacion);
@@ -43,7 +43,19 @@ void EnCaliente(benchmark::State& estado) {
     }
     estado.counters["bytes"] = static_cast<double>(contenido.Texto.size());
 }
+
+void EnCaliente(benchmark::State& estado) {
+    (void)Entorno();
+    Analiza(estado, Escritura(estado.range(0)));
+}
 BENCHMARK(EnCaliente)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond);
+
+void EnCalienteConOtrasTablas(benchmark::State& estado, const char* carpeta) {
+    (void)Entorno();
+    TProveedorDbase proveedor{std::filesystem::path(carpeta)};
+    const InstalaTablas instala(proveedor);
+    Analiza(estado, Escritura(estado.range(0)));
+}
 
 void LecturaDelDocumento(benchmark::State& estado) {
     for (auto _ : estado) benchmark::DoNotOptimize(TFicheroDocx(EJEMPLO).Contenido().Texto.size());
@@ -59,4 +71,14 @@ BENCHMARK(ProgramaEntero)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+    if (const char* const carpeta = std::getenv("OTRAS_TABLAS"))
+        benchmark::RegisterBenchmark("EnCalienteConOtrasTablas", EnCalienteConOtrasTablas, carpeta)
+            ->Arg(1)
+            ->Arg(10)
+            ->Unit(benchmark::kMillisecond);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+}

@@ -1,8 +1,6 @@
 #include "plataforma/FicheroIni.h"
 
 #include <algorithm>
-#include <array>
-#include <fstream>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -125,37 +123,9 @@ const std::vector<std::string>& TFicheroIni::Palabras(std::string_view seccion) 
 namespace {
 
 struct TCopia {
-    TMarcaFichero Marca;
-    std::string Bytes;
+    TLecturaFichero Lectura;
     std::shared_ptr<const TFicheroIni> Contenido;
 };
-
-// Empty when the file cannot be read, as a folder cannot.
-std::optional<std::string> LeeBytes(const std::filesystem::path& fichero) {
-    std::ifstream entrada(fichero, std::ios::binary);
-    std::string bytes;
-    std::array<char, 65536> trozo{};
-    do {
-        entrada.read(trozo.data(), trozo.size());
-        bytes.append(trozo.data(), static_cast<std::size_t>(entrada.gcount()));
-    } while (entrada);
-    return entrada.bad() ? std::nullopt : std::optional(std::move(bytes));
-}
-
-// Reads until the file stands still: the mark before and after the reading is the same.
-TCopia LeeCopia(const std::filesystem::path& fichero, TMarcaFichero marca) {
-    constexpr int INTENTOS = 100;
-    TCopia copia;
-    for (int i = 0; i < INTENTOS; ++i) {
-        copia.Marca = marca;
-        auto bytes = LeeBytes(fichero);
-        const bool legible = bytes.has_value();
-        copia.Bytes = std::move(bytes).value_or(std::string());
-        marca = MarcaDeFichero(fichero);
-        if (!legible || (marca == copia.Marca && copia.Bytes.size() == marca.Longitud)) break;
-    }
-    return copia;
-}
 
 }  // namespace
 
@@ -171,13 +141,13 @@ std::shared_ptr<const TFicheroIni> AbreFicheroIni(const std::filesystem::path& f
         return VACIO;
     }
     TCopia& guardada = copias[fichero];
-    if (guardada.Contenido && !marca.Reciente && marca == guardada.Marca) return guardada.Contenido;
-    TCopia nueva = LeeCopia(fichero, marca);
-    if (guardada.Contenido && guardada.Bytes == nueva.Bytes)
-        nueva.Contenido = guardada.Contenido;
-    else
-        nueva.Contenido = std::make_shared<const TFicheroIni>(nueva.Bytes);
-    guardada = std::move(nueva);
+    if (guardada.Lectura.Estado == TEstadoLectura::Entera && !marca.Reciente &&
+        marca == guardada.Lectura.Marca)
+        return guardada.Contenido;
+    TLecturaFichero lectura = LeeFichero(fichero);
+    if (!guardada.Contenido || guardada.Lectura.Bytes != lectura.Bytes)
+        guardada.Contenido = std::make_shared<const TFicheroIni>(lectura.Bytes);
+    guardada.Lectura = std::move(lectura);
     return guardada.Contenido;
 }
 

@@ -1,5 +1,10 @@
 #include "plataforma/Rficheros.h"
 
+#include <cerrno>
+#include <fstream>
+#include <string>
+#include <utility>
+
 namespace analizador {
 
 std::filesystem::path SlashSep(const std::filesystem::path& ruta, const std::filesystem::path& resto) {
@@ -16,6 +21,42 @@ std::filesystem::path SlashSep(const std::filesystem::path& ruta, const std::fil
 bool EsMarcaReciente(std::int64_t modificado, std::int64_t cambiado, std::int64_t ahora) {
     constexpr std::int64_t MARGEN = 3'000'000'000;  // some file systems count in steps of two seconds
     return modificado > ahora - MARGEN || cambiado > ahora - MARGEN;
+}
+
+bool MismaMarca(const TMarcaFichero& una, TMarcaFichero otra) {
+    otra.Reciente = una.Reciente;
+    return una == otra;
+}
+
+namespace {
+
+// One byte more than the length is asked for, to see that the file ends there.
+TLecturaFichero LeeUnaVez(const std::filesystem::path& fichero, const TMarcaFichero& marca) {
+    errno = 0;
+    std::ifstream entrada(fichero, std::ios::binary);
+    if (!entrada) return {errno == EACCES ? TEstadoLectura::SinPermiso : TEstadoLectura::NoSeAbre, marca, {}};
+    std::string bytes(marca.Longitud + 1, '\0');
+    entrada.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(entrada.gcount()));
+    if (entrada.bad()) return {TEstadoLectura::NoSeLee, marca, {}};
+    return {bytes.size() == marca.Longitud ? TEstadoLectura::Entera : TEstadoLectura::Cambia, marca,
+            std::move(bytes)};
+}
+
+}  // namespace
+
+TLecturaFichero LeeFichero(const std::filesystem::path& fichero, const TTomaMarca& marca) {
+    constexpr int INTENTOS = 100;
+    TLecturaFichero lectura;
+    TMarcaFichero antes = marca(fichero);
+    for (int i = 0; i < INTENTOS; ++i) {
+        lectura = LeeUnaVez(fichero, antes);
+        const TMarcaFichero despues = marca(fichero);
+        if (MismaMarca(antes, despues) && lectura.Estado != TEstadoLectura::Cambia) return lectura;
+        antes = despues;
+    }
+    lectura.Estado = TEstadoLectura::Cambia;
+    return lectura;
 }
 
 }  // namespace analizador

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -42,5 +43,33 @@ struct TMarcaFichero {
 
 // The mark of a file as it is now; `Existe` is false when there is none or it cannot be reached.
 [[nodiscard]] TMarcaFichero MarcaDeFichero(const std::filesystem::path& fichero);
+
+// Whether the file was the same when both marks were taken, however long ago it had changed.
+[[nodiscard]] bool MismaMarca(const TMarcaFichero& una, TMarcaFichero otra);
+
+enum class TEstadoLectura {
+    Entera,
+    SinPermiso,  // it cannot be opened for lack of rights
+    NoSeAbre,    // nor for another cause: it does not exist, too many files are open
+    NoSeLee,     // it opens and its reading fails, as a folder's does
+    Cambia       // it never stood still, or never had the length that the system tells
+};
+
+// What was read in the last attempt and the mark of just before it. The bytes are the file's content as of
+// that mark only when `Estado` is Entera; they may be torn when it is Cambia and are empty otherwise.
+struct TLecturaFichero {
+    TEstadoLectura Estado = TEstadoLectura::NoSeAbre;
+    TMarcaFichero Marca;
+    std::string Bytes;
+};
+
+// Takes the mark of a file; MarcaDeFichero, except in tests.
+using TTomaMarca = std::function<TMarcaFichero(const std::filesystem::path&)>;
+
+// The file's whole content together with the mark that it had all along, never half of an old and half of a
+// new one: it is read again as long as its mark changes meanwhile, a hundred times at most. No failure
+// throws; the file is closed on return.
+[[nodiscard]] TLecturaFichero LeeFichero(const std::filesystem::path& fichero,
+                                         const TTomaMarca& marca = MarcaDeFichero);
 
 }  // namespace analizador

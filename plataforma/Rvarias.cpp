@@ -47,6 +47,25 @@ int ControlDeSociedad(std::string_view cifras) {
     return (10 - suma % 10) % 10;
 }
 
+// The number that `cifras` is, when they are digits alone and `minimo` to `maximo` of them.
+std::optional<int> Cifras(std::string_view cifras, std::size_t minimo, std::size_t maximo) {
+    if (cifras.size() < minimo || cifras.size() > maximo ||
+        !std::all_of(cifras.begin(), cifras.end(), EsCifra))
+        return std::nullopt;
+    return Cad_Int(cifras);
+}
+
+// The latest year not after `actual` that ends in the two digits.
+int AnnoDeDosCifras(int cifras, int actual) {
+    const int anno = actual / 100 * 100 + cifras;
+    return anno > actual ? anno - 100 : anno;
+}
+
+std::chrono::year_month_day Dia(int dia, int mes, int anno) {
+    return {std::chrono::year(anno), std::chrono::month(static_cast<unsigned>(mes)),
+            std::chrono::day(static_cast<unsigned>(dia))};
+}
+
 }  // namespace
 
 bool EsNif(std::string_view numero, [[maybe_unused]] bool aviso) {
@@ -86,10 +105,35 @@ std::string FormateaDNI(std::string_view numero) {
 
 bool EsFechaValida(int dia, int mes, int anno) {
     if (anno < 1 || anno > 9999 || mes < 1 || mes > 12 || dia < 1 || dia > 31) return false;
-    return std::chrono::year_month_day(std::chrono::year(anno),
-                                       std::chrono::month(static_cast<unsigned>(mes)),
-                                       std::chrono::day(static_cast<unsigned>(dia)))
-        .ok();
+    return Dia(dia, mes, anno).ok();
+}
+
+std::optional<std::chrono::year_month_day> VerificaFecha(std::string_view texto,
+                                                         std::chrono::year_month_day hoy) {
+    constexpr int PRIMER_ANNO = 1900;
+    const std::string fecha = QuitaCaracter(texto, ' ');
+    const std::size_t barra1 = fecha.find('/');
+    const std::size_t barra2 = fecha.find('/', barra1 + 1);
+    if (barra1 == std::string::npos || barra2 == std::string::npos) return std::nullopt;
+    const std::string_view partes = fecha;
+    const auto dia = Cifras(partes.substr(0, barra1), 1, 2);
+    const auto mes = Cifras(partes.substr(barra1 + 1, barra2 - barra1 - 1), 1, 2);
+    const std::string_view cifrasAnno = partes.substr(barra2 + 1);
+    auto anno = Cifras(cifrasAnno, 2, 4);
+    if (!dia || !mes || !anno || cifrasAnno.size() == 3) return std::nullopt;
+    if (cifrasAnno.size() == 2) anno = AnnoDeDosCifras(*anno, static_cast<int>(hoy.year()));
+    if (*anno < PRIMER_ANNO || !EsFechaValida(*dia, *mes, *anno)) return std::nullopt;
+    return Dia(*dia, *mes, *anno);
+}
+
+std::string Fecha_Cad(std::chrono::year_month_day fecha) {
+    return StrCeros(static_cast<int>(static_cast<unsigned>(fecha.day())), 2) + "/" +
+           StrCeros(static_cast<int>(static_cast<unsigned>(fecha.month())), 2) + "/" +
+           StrCeros(static_cast<int>(fecha.year()), 4);
+}
+
+std::chrono::year_month_day Hoy() {
+    return std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
 }
 
 }  // namespace analizador

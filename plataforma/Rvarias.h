@@ -2,6 +2,8 @@
 
 // The suite's checks of identity numbers and dates.
 
+#include <chrono>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,5 +25,17 @@ namespace analizador {
 
 // True when the three make a day of the calendar, year 1 to 9999.
 [[nodiscard]] bool EsFechaValida(int dia, int mes, int anno);
+
+// The day that a typed date means: day, month and year in digits with "/" between, blanks anywhere; one or
+// two digits for the day and for the month, four for the year, or two, which mean the latest such year that
+// is not after that of `hoy`. Nothing when it is no day of the calendar or is before 1/1/1900.
+[[nodiscard]] std::optional<std::chrono::year_month_day> VerificaFecha(std::string_view texto,
+                                                                       std::chrono::year_month_day hoy);
+
+// "dd/mm/yyyy", ten characters. Only for years 0 to 9999.
+[[nodiscard]] std::string Fecha_Cad(std::chrono::year_month_day fecha);
+
+// The day that the clock gives, in universal time.
+[[nodiscard]] std::chrono::year_month_day Hoy();
 
 }  // namespace analizador

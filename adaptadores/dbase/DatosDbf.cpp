@@ -14,9 +14,6 @@ namespace {
 
 constexpr std::string_view VERSIONES = "\x03\x04\x05\x07\x30\x31\x32\x43\x63\x83\x87\x8B\x8C\xCB\xF5";
 
-constexpr std::size_t REGISTROS_EN = 4;
-constexpr std::size_t LONGITUD_CABECERA_EN = 8;
-constexpr std::size_t LONGITUD_REGISTRO_EN = 10;
 constexpr std::size_t CONTROLADOR_EN = 29;
 constexpr std::size_t MAXIMO_TEXTO = 255;  // more only where the decimals' byte is the length's high one
 
@@ -81,10 +78,7 @@ void TDatosDbf::Falla(std::string_view causa) const {
 }
 
 std::uint32_t TDatosDbf::Leido(std::size_t posicion, std::size_t bytes) const {
-    std::uint32_t valor = 0;
-    for (std::size_t i = bytes; i > 0; --i)
-        valor = valor << 8U | static_cast<unsigned char>(contenido_[posicion + i - 1]);
-    return valor;
+    return static_cast<std::uint32_t>(LeeBajo(contenido_, posicion, bytes));
 }
 
 void TDatosDbf::CompruebaCabecera() {

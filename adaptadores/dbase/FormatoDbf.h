@@ -35,6 +35,9 @@
 namespace analizador {
 
 inline constexpr std::size_t CABECERA_DBF = 32;
+inline constexpr std::size_t REGISTROS_EN = 4;
+inline constexpr std::size_t LONGITUD_CABECERA_EN = 8;
+inline constexpr std::size_t LONGITUD_REGISTRO_EN = 10;
 inline constexpr std::size_t DESCRIPTOR_DBF = 32;
 inline constexpr std::size_t CABECERA_DBF7 = 68;
 inline constexpr std::size_t DESCRIPTOR_DBF7 = 48;

@@ -1,7 +1,5 @@
 #include "adaptadores/dbase/ProveedorDbase.h"
 
-#include <cstdint>
-#include <fstream>
 #include <utility>
 
 #include "adaptadores/dbase/OrdenDbf.h"
@@ -12,7 +10,6 @@ namespace analizador {
 
 namespace {
 
-constexpr int INTENTOS_LECTURA = 5;
 constexpr std::string_view EXTENSION = ".DBF";
 
 std::string EnMayusculas(std::string_view texto) {
@@ -44,26 +41,18 @@ std::filesystem::path BuscaFichero(const std::filesystem::path& carpeta, const s
     throw ErrorTabla("La tabla " + nombre + std::string(" no está en la carpeta "_ansi) + Ansi(carpeta));
 }
 
-// At most `longitud` bytes; fewer when the file has become shorter.
-std::string LeeEntero(const std::filesystem::path& ruta, std::uint64_t longitud) {
-    std::ifstream fichero(ruta, std::ios::binary);
-    if (!fichero) throw ErrorTabla("La tabla " + Ansi(ruta) + " no se puede abrir");
-    std::string contenido(longitud, '\0');
-    fichero.read(contenido.data(), static_cast<std::streamsize>(longitud));
-    if (fichero.bad()) throw ErrorTabla("La tabla " + Ansi(ruta) + " no se puede leer");
-    contenido.resize(static_cast<std::size_t>(fichero.gcount()));
-    return contenido;
-}
-
-// The content together with the mark that it had all along, so that it is never half of an old and half of a
-// new one.
-std::pair<TMarcaFichero, std::string> LeeConMarca(const std::filesystem::path& ruta) {
-    for (int i = 0; i < INTENTOS_LECTURA; ++i) {
-        const TMarcaFichero antes = MarcaDeFichero(ruta);
-        std::string contenido = LeeEntero(ruta, antes.Longitud);
-        TMarcaFichero despues = MarcaDeFichero(ruta);
-        despues.Reciente = antes.Reciente;
-        if (antes == despues && contenido.size() == antes.Longitud) return {antes, std::move(contenido)};
+TLecturaFichero LeeTabla(const std::filesystem::path& ruta) {
+    TLecturaFichero lectura = LeeFichero(ruta);
+    switch (lectura.Estado) {
+        case TEstadoLectura::Entera:
+            return lectura;
+        case TEstadoLectura::SinPermiso:
+        case TEstadoLectura::NoSeAbre:
+            throw ErrorTabla("La tabla " + Ansi(ruta) + " no se puede abrir");
+        case TEstadoLectura::NoSeLee:
+            throw ErrorTabla("La tabla " + Ansi(ruta) + " no se puede leer");
+        case TEstadoLectura::Cambia:
+            break;
     }
     throw ErrorTabla("La tabla " + Ansi(ruta) + std::string(" está cambiando mientras se lee"_ansi));
 }
@@ -97,11 +86,23 @@ std::shared_ptr<const TTablaEnMemoria> TProveedorDbase::Tabla(const std::filesys
     const std::lock_guard guarda(entrada->Cerrojo);
     const TMarcaFichero marca = MarcaDeFichero(ruta);
     if (entrada->Tabla != nullptr && !marca.Reciente && marca == entrada->Marca) return entrada->Tabla;
-    auto [leida, contenido] = LeeConMarca(ruta);
+    TLecturaFichero lectura = LeeTabla(ruta);
     entrada->Tabla = std::make_shared<const TTablaEnMemoria>(EnMayusculas(Ansi(ruta.stem())),
-                                                             std::move(contenido), Ansi(ruta));
-    entrada->Marca = leida;
+                                                             std::move(lectura.Bytes), Ansi(ruta));
+    entrada->Marca = lectura.Marca;
     return entrada->Tabla;
+}
+
+// A note that counted goes on counting as long as the table's mark says that nobody touched it.
+bool TProveedorDbase::EstaEnOrden(const std::filesystem::path& ruta, const TMarcaFichero& marca,
+                                  std::string_view indice) {
+    const std::shared_ptr<TEntrada> entrada = Entrada(ruta);
+    const std::lock_guard guarda(entrada->Cerrojo);
+    if (entrada->Orden.empty() || marca.Reciente || marca != entrada->MarcaOrden) {
+        entrada->Orden = OrdenAnotado(ruta, marca);
+        entrada->MarcaOrden = marca;
+    }
+    return entrada->Orden == indice;
 }
 
 std::unique_ptr<TTabla> TProveedorDbase::Abre(std::string_view alias, std::string_view fichero,
@@ -110,9 +111,12 @@ std::unique_ptr<TTabla> TProveedorDbase::Abre(std::string_view alias, std::strin
     const auto abreEntera = [this, ruta, indice = std::string(indice)]() -> std::unique_ptr<TTabla> {
         return std::make_unique<TTablaDbase>(Tabla(ruta), indice);
     };
-    if (indice.empty() || OrdenAnotado(ruta, MarcaDeFichero(ruta)) != indice) return abreEntera();
-    return std::make_unique<TTablaOrdenadaDbf>(ruta, EnMayusculas(Ansi(ruta.stem())), std::string(indice),
-                                               Ansi(ruta), abreEntera);
+    const TMarcaFichero marca = MarcaDeFichero(ruta);
+    if (indice.empty() || !EstaEnOrden(ruta, marca, indice)) return abreEntera();
+    auto ordenada = std::make_unique<TTablaOrdenadaDbf>(ruta, EnMayusculas(Ansi(ruta.stem())),
+                                                        std::string(indice), Ansi(ruta), abreEntera);
+    if (!MismaMarca(marca, MarcaDeFichero(ruta))) return abreEntera();  // another one by now
+    return ordenada;
 }
 
 }  // namespace analizador

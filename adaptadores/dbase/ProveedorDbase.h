@@ -36,10 +36,14 @@ class TProveedorDbase : public TProveedorTablas {
         std::mutex Cerrojo;
         TMarcaFichero Marca;
         std::shared_ptr<const TTablaEnMemoria> Tabla;
+        TMarcaFichero MarcaOrden;
+        std::string Orden;  // the note that counted for that mark; empty: none so far
     };
 
     [[nodiscard]] std::filesystem::path Carpeta(std::string_view alias) const;
     [[nodiscard]] std::shared_ptr<TEntrada> Entrada(const std::filesystem::path& ruta);
+    [[nodiscard]] bool EstaEnOrden(const std::filesystem::path& ruta, const TMarcaFichero& marca,
+                                   std::string_view indice);
     [[nodiscard]] std::shared_ptr<const TTablaEnMemoria> Tabla(const std::filesystem::path& ruta);
 
     std::filesystem::path comun_;

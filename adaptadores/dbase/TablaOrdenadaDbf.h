@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -17,8 +18,8 @@
 
 namespace analizador {
 
-// What does not begin with a range needs the other rows: the table is then read whole, once. The file stays
-// open as long as the table is.
+// What does not begin with a range needs the other rows: the table is then read whole, once. So it is too
+// when a search meets rows that are not in the order promised. The file stays open as long as the table is.
 class TTablaOrdenadaDbf : public TTabla {
   public:
     using TAbreEntera = std::function<std::unique_ptr<TTabla>()>;
@@ -48,11 +49,13 @@ class TTablaOrdenadaDbf : public TTabla {
     // From the first call on the only table used.
     [[nodiscard]] TTabla& Entera() const;
     [[nodiscard]] std::string Registros(std::uint64_t primero, std::uint64_t cuantos);
-    [[nodiscard]] TDatosDbf Datos(std::uint64_t primero, std::uint64_t cuantos);
+    [[nodiscard]] TDatosDbf Datos(std::string_view registros) const;
     [[nodiscard]] std::vector<const TCampoDbf*> Campos(const TDatosDbf& datos) const;
     [[nodiscard]] std::uint64_t PrimeroQueNo(const std::function<bool(int)>& antes, std::uint64_t desde,
                                              TClave clave);
-    [[nodiscard]] bool Ordenada(TClave clave);
+    [[nodiscard]] bool Ordenada(TClave clave) const;
+    [[nodiscard]] bool LeidosEnOrden(std::uint64_t primero, std::uint64_t fin, std::string_view tramo) const;
+    [[nodiscard]] bool HallaTramo(TClave desde, TClave hasta);
 
     std::string nombre_, indice_, fichero_;
     TAbreEntera abreEntera_;
@@ -60,6 +63,7 @@ class TTablaOrdenadaDbf : public TTabla {
     std::string cabecera_;
     std::uint64_t registros_ = 0;
     std::uint64_t longitudRegistro_ = 0;
+    std::map<std::uint64_t, std::string> leidos_;  // records, by their place, looked at in a search
     std::string filtro_;
     mutable std::unique_ptr<TTabla> entera_;
     mutable std::unique_ptr<TTabla> tramo_;

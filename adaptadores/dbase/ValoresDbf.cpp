@@ -116,4 +116,11 @@ std::optional<double> NumeroDeBytes(std::string_view bytes, TClaseCampo clase) {
     }
 }
 
+std::uint64_t LeeBajo(std::string_view bytes, std::size_t posicion, std::size_t cuantos) {
+    std::uint64_t valor = 0;
+    for (std::size_t i = cuantos; i > 0; --i)
+        valor = valor << 8U | static_cast<unsigned char>(bytes[posicion + i - 1]);
+    return valor;
+}
+
 }  // namespace analizador

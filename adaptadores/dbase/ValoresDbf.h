@@ -2,6 +2,8 @@
 
 // What the bytes of a dBASE field say.
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,6 +24,9 @@ namespace analizador {
 
 // The whole number that an optional sign and digits write, blanks around them.
 [[nodiscard]] std::optional<double> EnteroDeDigitos(std::string_view texto);
+
+// The little-endian number of `cuantos` bytes, 8 at most, at a position; the bytes must be there.
+[[nodiscard]] std::uint64_t LeeBajo(std::string_view bytes, std::size_t posicion, std::size_t cuantos);
 
 // Without the blanks at the right, at both ends. Views into `texto`.
 [[nodiscard]] std::string_view SinBlancosDerecha(std::string_view texto);

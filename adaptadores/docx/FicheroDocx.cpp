@@ -50,12 +50,6 @@ bool SonElMismo(const std::filesystem::path& uno, const std::filesystem::path& o
     return std::filesystem::equivalent(uno, otro, error) && !error;
 }
 
-// The mark's doubt about recent changes aside.
-bool MismaMarca(TMarcaFichero una, TMarcaFichero otra) {
-    una.Reciente = otra.Reciente = false;
-    return una == otra;
-}
-
 // The document with the bookmarks, read back to make sure that nothing else changed. Empty when there is
 // nothing to change.
 std::string ComponeNuevo(std::string_view bytes, const TContenidoDocumento& leido,

@@ -1,12 +1,11 @@
 #include "adaptadores/docx/LecturaFichero.h"
 
-#include <cerrno>
 #include <cstdint>
-#include <fstream>
 #include <string>
 #include <system_error>
 
 #include "adaptadores/docx/FalloDocx.h"
+#include "plataforma/Rficheros.h"
 
 namespace analizador {
 
@@ -34,6 +33,21 @@ void ExigeFicheroNormal(const std::filesystem::path& fichero) {
         throw FalloDocx("no es un fichero que se pueda leer");
 }
 
+void ExigeEntera(TEstadoLectura estado) {
+    switch (estado) {
+        case TEstadoLectura::Entera:
+            return;
+        case TEstadoLectura::SinPermiso:
+            throw FalloDocx("no hay permiso para leer el fichero");
+        case TEstadoLectura::NoSeAbre:
+            throw FalloDocx("no se puede abrir el fichero");
+        case TEstadoLectura::NoSeLee:
+            throw FalloDocx("no se puede leer el fichero hasta el final");
+        case TEstadoLectura::Cambia:
+            throw FalloDocx("el fichero está cambiando mientras se lee");
+    }
+}
+
 bool Contiene(std::string_view bytes, std::string_view buscado) {
     return bytes.find(buscado) != std::string_view::npos;
 }
@@ -46,17 +60,10 @@ std::string LeeFicheroEntero(const std::filesystem::path& fichero) {
     const auto tamano = std::filesystem::file_size(fichero, error);
     if (error) throw FalloDocx("no se puede leer el fichero");
     if (tamano > TAMANO_MAXIMO) throw FalloDocx("es demasiado grande para ser un documento");
-    errno = 0;
-    std::ifstream entrada(fichero, std::ios::binary);
-    if (!entrada)
-        throw FalloDocx(errno == EACCES ? "no hay permiso para leer el fichero"
-                                        : "no se puede abrir el fichero");
-    std::string bytes(static_cast<std::size_t>(tamano), '\0');
-    entrada.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (entrada.gcount() != static_cast<std::streamsize>(bytes.size()))
-        throw FalloDocx("no se puede leer el fichero hasta el final");
-    if (bytes.empty()) throw FalloDocx("el fichero está vacío");
-    return bytes;
+    TLecturaFichero lectura = LeeFichero(fichero);
+    ExigeEntera(lectura.Estado);
+    if (lectura.Bytes.empty()) throw FalloDocx("el fichero está vacío");
+    return std::move(lectura.Bytes);
 }
 
 std::string CausaDeNoSerZip(std::string_view bytes) {

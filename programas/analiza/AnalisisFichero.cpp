@@ -55,9 +55,8 @@ void TAnalisisFichero::Analiza(const std::filesystem::path& fichero, const TOpci
     TFicheroDocx docx(fichero);
     FAplicacion = std::make_unique<TAplicacionMemoria>(std::make_unique<TDocumentoMemoria>(docx.Contenido()));
     FSesion = std::make_unique<TClassAnalizadorAbierto>(nullptr, FAplicacion.get());
-    constexpr bool SIN_REVISION = true;  // nobody is there to be asked for the notary
-    FSesion->Analiza(SIN_REVISION);
-    if (opciones.Salida)
+    const bool aceptado = FSesion->Analiza(!opciones.Revisa);
+    if (opciones.Salida && (aceptado || !opciones.Revisa))
         docx.Guarda(MarcadoresDeSecciones(*FSesion), *opciones.Salida, {.Forzar = opciones.Forzar});
 }
 

@@ -14,6 +14,7 @@ struct TOpcionesAnalisis {
     std::optional<std::filesystem::path>
         Salida;           // where to save the document with its section bookmarks; none: nowhere
     bool Forzar = false;  // save even a document that another program has open
+    bool Revisa = false;  // windows are installed: the user reviews, and only what was accepted is saved
 };
 
 // A deed file analysed: the session with its results, or why it could not be.

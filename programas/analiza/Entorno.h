@@ -4,7 +4,6 @@
 #include <optional>
 
 #include "adaptadores/consola/PantallaConsola.h"
-#include "adaptadores/consola/RevisorAutomatico.h"
 #include "adaptadores/dbase/ProveedorDbase.h"
 #include "adaptadores/ini/ConfigIni.h"
 
@@ -26,11 +25,9 @@ class TEntorno {
     TConfigIni FConfig;
     TProveedorDbase FTablas;
     TPantallaConsola FPantalla;
-    TRevisorAutomatico FRevisor;
     InstalaConfig FInstalaConfig{FConfig};
     InstalaTablas FInstalaTablas{FTablas};
     InstalaPantalla FInstalaPantalla{FPantalla};
-    InstalaVistaPreseleccion FInstalaRevisor{FRevisor};
 };
 
 }  // namespace analizador

@@ -8,7 +8,8 @@
 
 namespace analizador {
 
-enum TCodigoSalida { TODO_BIEN = 0, ALGUNO_FALLO = 1, MAL_USO = 2 };
+// The worst of several files counts, in this order: a failure, a review that the user cancelled, all well.
+enum TCodigoSalida { TODO_BIEN = 0, ALGUNO_FALLO = 1, MAL_USO = 2, REVISION_CANCELADA = 3 };
 
 // The help in Castilian and the options that every order takes alike.
 void PreparaOrden(CLI::App& orden);

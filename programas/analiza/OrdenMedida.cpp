@@ -75,7 +75,7 @@ std::string Juzga(const fs::path& hechos, TMedida& medida) {
     const TAnalisisFichero analisis(*escritura, {});
     if (!analisis.Error().empty()) return analisis.Error();
     try {
-        medida.Juzga(hechos.stem().string(), Contenido(hechos), LineaJson(*escritura, analisis, false));
+        medida.Juzga(hechos.stem().string(), Contenido(hechos), LineaJson(*escritura, analisis));
         return {};
     } catch (const ErrorHechos& error) {
         return hechos.string() + ": " + error.what();

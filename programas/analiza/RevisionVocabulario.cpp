@@ -1,10 +1,10 @@
 #include "programas/analiza/RevisionVocabulario.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "plataforma/Ansi.h"
 #include "plataforma/Rnumcad.h"
-#include "plataforma/Rut.h"
 
 namespace analizador {
 
@@ -15,7 +15,7 @@ TPalabrasCorrientes LeePalabrasCorrientes(std::string_view utf8) {
     std::string_view resto = texto;
     while (!resto.empty()) {
         const std::size_t fin = resto.find('\n');
-        std::string_view linea = Recorta(resto.substr(0, fin));
+        const std::string_view linea = Recorta(resto.substr(0, fin));
         resto.remove_prefix(fin == std::string_view::npos ? resto.size() : fin + 1);
         if (linea.starts_with(';')) continue;
         if (linea.starts_with('[')) {
@@ -24,11 +24,7 @@ TPalabrasCorrientes LeePalabrasCorrientes(std::string_view utf8) {
                                             : nullptr;
             continue;
         }
-        while (lista != nullptr && !linea.empty()) {
-            const std::size_t blanco = std::min(linea.find(' '), linea.size());
-            lista->push_back(Pliega(linea.substr(0, blanco)));
-            linea = Recorta(linea.substr(blanco));
-        }
+        if (lista != nullptr) std::ranges::move(PalabrasPlegadas(linea), std::back_inserter(*lista));
     }
     return palabras;
 }

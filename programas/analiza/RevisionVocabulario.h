@@ -42,7 +42,9 @@ struct TPalabrasCorrientes {
 [[nodiscard]] std::vector<TReparo> RevisaEntradas(const TVocabulario& vocabulario);
 // Entries that never win, because another one that comes before them always does.
 [[nodiscard]] std::vector<TReparo> RevisaTapadas(const TVocabulario& vocabulario);
-// Entries that common words contain, in the sections that are searched inside words.
+// Entries that common words contain, in the sections that are searched inside words, but for the words that
+// the entry's mark says are known; and marks that say more than is needed. Nothing when there are no common
+// words.
 [[nodiscard]] std::vector<TReparo> RevisaCorrientes(const TVocabulario& vocabulario,
                                                     const std::vector<std::string>& corrientes);
 

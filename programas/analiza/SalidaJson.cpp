@@ -108,7 +108,7 @@ std::string LineaJsonModelo() {
 }
 
 std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis,
-                      bool conOrigen) {
+                      TPedidoJson pedido) {
     TJson json;
     json["archivo"] = fichero.string();
     if (!analisis.Error().empty()) {
@@ -117,14 +117,16 @@ std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFiche
         const TClassAnalizadorAbierto& sesion = analisis.Sesion();
         json["idioma"] = EsCastellano() ? "castellano" : "catalan";
         json["Cabecera"] = Cabecera(sesion.Cabecera);
+        if (pedido.Revisado) json["Aceptado"] = sesion.Aceptado;
         json["Conceptos"] = Conceptos(sesion.Cabecera.Conceptos);
+        if (pedido.Revisado) json["ConceptosValidos"] = Conceptos(sesion.ConceptosValidos);
         json["Cuantias"] = Textos(sesion.Cuantias);
         json["Otorgantes"] = Otorgantes(sesion.Otorgantes.Lista);
         json["Operacion"] = Operacion(sesion.Operacion);
         json["Fincas"] = Textos(sesion.Fincas);
         json["Empleado"] = Utf8DeAnsi(sesion.Empleado);
         json["Pizarra"] = Utf8DeAnsi(sesion.Pizarra);
-        if (conOrigen) json["Origen"] = JsonOrigen(analisis);
+        if (pedido.Origen) json["Origen"] = JsonOrigen(analisis);
     }
     // A file's name need not be valid UTF-8.
     return json.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);

@@ -7,10 +7,15 @@
 
 namespace analizador {
 
+struct TPedidoJson {
+    bool Origen = false;    // adds where each fact was read, under "Origen"
+    bool Revisado = false;  // adds whether the user accepted, and the concepts accepted
+};
+
 // The analysis of a file as one line of JSON (UTF-8, without the line end): its results, or only the file and
-// the error. `conOrigen` adds where each fact was read, under "Origen".
+// the error.
 [[nodiscard]] std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis,
-                                    bool conOrigen);
+                                    TPedidoJson pedido = {});
 
 // A line with the same keys and nothing found, a concept and a party without facts in their lists: what keys
 // there are and of which shape.

@@ -1,13 +1,16 @@
 #include "programas/analiza/SalidaTexto.h"
 
 #include "analizador/ConstAnalizador.h"
+#include "analizador/Pizarra.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Rnumcad.h"
 
 namespace analizador {
 
-std::string InformeTexto(const TClassAnalizadorAbierto& sesion) {
-    std::string informe = Utf8DeAnsi(QuitaCaracter(sesion.Pizarra, '\r'));
+namespace {
+
+std::string ConIdiomaYCuantias(const std::string& pizarra, const TClassAnalizadorAbierto& sesion) {
+    std::string informe = Utf8DeAnsi(QuitaCaracter(pizarra, '\r'));
     informe += "\nIDIOMA       : ";
     informe += EsCastellano() ? "CASTELLANO" : "CATALAN";
     informe += "\nCUANTIAS     : ";
@@ -18,6 +21,16 @@ std::string InformeTexto(const TClassAnalizadorAbierto& sesion) {
     }
     informe += '\n';
     return informe;
+}
+
+}  // namespace
+
+std::string InformeTexto(const TClassAnalizadorAbierto& sesion) {
+    return ConIdiomaYCuantias(sesion.Pizarra, sesion);
+}
+
+std::string EleccionTexto(const TClassAnalizadorAbierto& sesion) {
+    return ConIdiomaYCuantias(TextoPizarra(sesion, sesion.ConceptosValidos), sesion);
 }
 
 }  // namespace analizador

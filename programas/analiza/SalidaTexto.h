@@ -10,4 +10,7 @@ namespace analizador {
 // report leaves out.
 [[nodiscard]] std::string InformeTexto(const TClassAnalizadorAbierto& sesion);
 
+// The same of what the user accepted in the review. Throws ErrorTabla.
+[[nodiscard]] std::string EleccionTexto(const TClassAnalizadorAbierto& sesion);
+
 }  // namespace analizador

@@ -33,6 +33,19 @@ struct TEntradaVocabulario {
 // The entries of a section, in the order of the list; empty ones left out.
 [[nodiscard]] std::vector<TEntradaVocabulario> Entradas(const TFicheroIni& ini, std::string_view seccion);
 
+// A comment line "; conocido: MAYOR MAYORES" right above an entry: the common words that contain it and are
+// put up with.
+struct TMarcaConocido {
+    int Linea = 0;                      // of the entry, the one below the comment
+    std::vector<std::string> Palabras;  // folded
+};
+
+// All of a file, by line.
+[[nodiscard]] std::vector<TMarcaConocido> MarcasConocido(const TVocabulario& vocabulario);
+
+// The words of a text (Windows-1252), which blanks separate, folded.
+[[nodiscard]] std::vector<std::string> PalabrasPlegadas(std::string_view texto);
+
 // "«texto»" in UTF-8, of a Windows-1252 text.
 [[nodiscard]] std::string EntreComillas(std::string_view texto);
 

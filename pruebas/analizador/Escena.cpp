@@ -55,10 +55,10 @@ TEscena::TEscena(const std::vector<std::string_view>& parrafos, std::vector<TVar
                  std::vector<TMarcador> marcadores)
     : Vocabulario(CASTELLANO, CATALAN),
       Aplicacion(Crea({Parrafos(parrafos), std::move(marcadores), std::move(variables)})) {
-    Tablas.Pon("TIPOS.DBF", {{"NUMEROTIPO", "NOMBRE", "COD_OFICIA", "PRESTAMO"},
-                             {{"1", "COMPRAVENTA", "01001", "F"},
-                              {"2", "TESTAMENTO ABIERTO", "0200101", "F"},
-                              {"3", "PRESTAMO HIPOTECARIO", "05001", "T"}}});
+    Tablas.Pon("TIPOS.DBF", {{"NUMEROTIPO", "NOMBRE", "COD_OFICIA", "PRESTAMO", "CLAVE_INTI", "TIPO"},
+                             {{"1", "COMPRAVENTA", "01001", "F", "CV", "COMPRAVENTA"},
+                              {"2", "TESTAMENTO ABIERTO", "0200101", "F", "TE", "TESTAMENTO ABIERTO"},
+                              {"3", "PRESTAMO HIPOTECARIO", "05001", "T", "PH", "PRESTAMO HIPOTECARIO"}}});
     Tablas.Pon("AYUNTAM.DBF",
                {{"LUGAR", "NOMBRE", "ABREVIATUR", "COD_INE", "CODPOSTAL"},
                 {{"1", "MADRID", "MAD", "28079", "28001"}, {"2", "VIC", "VIC", "08298", "08500"}}});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -115,16 +116,19 @@ class TRevisorDePrueba : public TVistaPreseleccion {
                                     TComponente* propietario) override {
         FDiario.emplace_back("dialogo");
         Propietario = propietario;
-        Informe = dialogo.Informe;
-        Xml = dialogo.Xml;
-        for (const auto& linea : dialogo.LBOtorgantes) Propuestos.push_back(linea.Texto);
-        for (const auto& linea : dialogo.LBPosiblesOtorgantes) NoPropuestos.push_back(linea.Texto);
-        if (Acepta)
-            for (const auto& linea : dialogo.LBPosiblesConceptos)
-                dialogo.LBConceptos.Anade(linea.Texto, std::make_unique<TRConcepto>(*linea.Objeto));
-        return Acepta;
+        Informe = dialogo.Informe();
+        Xml = dialogo.Xml();
+        for (const auto& linea : dialogo.LBOtorgantes.Lineas()) Propuestos.push_back(linea.Texto);
+        for (const auto& linea : dialogo.LBPosiblesOtorgantes.Lineas()) NoPropuestos.push_back(linea.Texto);
+        if (Hace) Hace(dialogo);
+        if (!Acepta) return false;
+        dialogo.LBPosiblesConceptos.SeleccionaTodo();
+        dialogo.Pulsa(TControlPreseleccion::BMas);
+        dialogo.Pulsa(TControlPreseleccion::BContinuar);
+        return dialogo.Resultado().value_or(false);
     }
     bool Acepta = false;
+    std::function<void(TFListaConceptosPreseleccionados&)> Hace;  // what the user does before that
     TComponente* Propietario = nullptr;
     std::string Informe, Xml;
     std::vector<std::string> Propuestos, NoPropuestos;
@@ -173,6 +177,8 @@ class TEscena {
                      std::vector<TMarcador> marcadores = {});
 
     [[nodiscard]] TDocumentoGrabado& Documento() { return *FDocumento; }
+    // From now on nobody reviews.
+    void QuitaRevisor() { FInstalaRevisor.reset(); }
 
     TDiario Diario;
     TVocabularioDePrueba Vocabulario;
@@ -186,7 +192,7 @@ class TEscena {
     InstalaTablas FInstalaTablas{Tablas};
     InstalaConfig FInstalaConfig{Configuracion};
     InstalaPantalla FInstalaPantalla{Pantalla};
-    InstalaVistaPreseleccion FInstalaRevisor{Revisor};
+    std::optional<InstalaVistaPreseleccion> FInstalaRevisor{std::in_place, Revisor};
     InstalaSeleccionaNotario FInstalaSelector{Selector};
     TDocumentoGrabado* FDocumento;
 

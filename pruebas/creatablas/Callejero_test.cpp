@@ -376,6 +376,23 @@ TEST_F(Callejero, UnaTablaCambiadaNoSeCreeOrdenada) {
     EXPECT_EQ(abierta->CuentaFilas(), 1);
 }
 
+TEST_F(Callejero, UnaTablaSustituidaConSuFechaNoSeCreeOrdenada) {
+    ASSERT_TRUE(Importa()) << errores_;
+    const auto momento = std::filesystem::last_write_time(Tablas() / "POSTAL.DBF");
+    std::string tabla = Contenido(Tablas() / "POSTAL.DBF");
+    const std::size_t olivos = tabla.rfind("28OLIVOS ");
+    ASSERT_NE(olivos, std::string::npos);
+    tabla.replace(olivos, 9, "28ABAJO  ");
+    Pon("tablas/POSTAL.DBF", tabla);
+    std::filesystem::last_write_time(Tablas() / "POSTAL.DBF", momento);
+    TProveedorDbase proveedor(Tablas());
+    for (const auto& [via, filas] : {std::pair("ABAJO", 1), std::pair("MAYOR", 3)}) {
+        const auto abierta = proveedor.Abre("NORVEX", "POSTAL.DBF", "NOMBREVIA");
+        ASSERT_TRUE(abierta->Rango({{"PROVINCIA", "28"}, {"VIA", via}}, {{"PROVINCIA", "28"}, {"VIA", via}}));
+        EXPECT_EQ(abierta->CuentaFilas(), filas) << via;
+    }
+}
+
 struct TCompletado {
     std::string_view Vecindad, TipoVia, Via, Numero, CodPostal, CodINE;
 };

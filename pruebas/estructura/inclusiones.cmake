@@ -16,7 +16,8 @@ set(NORMAS
   "adaptadores/dbase|adaptadores/dbase plataforma modelo dialogos"
   "adaptadores/ini|adaptadores/ini plataforma modelo dialogos"
   "adaptadores/consola|adaptadores/consola plataforma modelo dialogos"
-  "adaptadores/word|adaptadores/word plataforma modelo dialogos")
+  "adaptadores/word|adaptadores/word plataforma modelo dialogos"
+  "adaptadores/qt|adaptadores/qt plataforma modelo dialogos")
 set(NUCLEO plataforma rutinas modelo dialogos analizador)
 set(CON_SISTEMA plataforma/Sistema_posix.cpp plataforma/Sistema_windows.cpp)
 

@@ -129,5 +129,78 @@ TEST(EsMarcaReciente, TresSegundos) {
     EXPECT_TRUE(EsMarcaReciente(AHORA + 100 * SEGUNDO, ANTES, AHORA));
 }
 
+TEST_F(FicherosPrueba, LeeElContenidoConSuMarca) {
+    for (const std::string& texto : {std::string(), std::string("uno"), std::string(200'000, '\0') + "fin"}) {
+        const auto fichero = Carpeta() / "a";
+        Escribe(fichero, texto);
+        const auto lectura = LeeFichero(fichero);
+        EXPECT_EQ(lectura.Estado, TEstadoLectura::Entera);
+        EXPECT_EQ(lectura.Bytes, texto);
+        EXPECT_TRUE(MismaMarca(lectura.Marca, MarcaDeFichero(fichero)));
+    }
+}
+
+TEST_F(FicherosPrueba, LoQueNoSePuedeLeerDiceLaCausa) {
+    EXPECT_EQ(LeeFichero(Carpeta() / "no hay").Estado, TEstadoLectura::NoSeAbre);
+    const auto carpeta = LeeFichero(Carpeta());
+    EXPECT_EQ(carpeta.Estado, TEstadoLectura::NoSeLee);
+    EXPECT_EQ(carpeta.Bytes, "");
+}
+
+TEST_F(FicherosPrueba, SinPermisoParaLeer) {
+    const auto cerrado = Carpeta() / "cerrado";
+    Escribe(cerrado, "uno");
+    fs::permissions(cerrado, fs::perms::none);
+    if (std::ifstream(cerrado)) GTEST_SKIP() << "this user may read everything";
+    EXPECT_EQ(LeeFichero(cerrado).Estado, TEstadoLectura::SinPermiso);
+}
+
+// The file gets another sign each time its mark is taken, up to so many.
+TTomaMarca CreceAlMirarlo(int veces) {
+    return [veces](const fs::path& fichero) mutable {
+        const auto marca = MarcaDeFichero(fichero);
+        if (veces-- > 0) std::ofstream(fichero, std::ios::app) << '.';
+        return marca;
+    };
+}
+
+TEST_F(FicherosPrueba, LeeOtraVezLoQueCambiaMientras) {
+    const auto fichero = Carpeta() / "a";
+    for (const int veces : {1, 2, 7, 50}) {
+        Escribe(fichero, "uno");
+        const auto lectura = LeeFichero(fichero, CreceAlMirarlo(veces));
+        EXPECT_EQ(lectura.Estado, TEstadoLectura::Entera) << veces;
+        EXPECT_EQ(lectura.Bytes, "uno" + std::string(static_cast<std::size_t>(veces), '.'));
+        EXPECT_EQ(lectura.Marca.Longitud, lectura.Bytes.size());
+    }
+}
+
+TEST_F(FicherosPrueba, LoQueNuncaSeEstaQuietoSeDice) {
+    const auto fichero = Carpeta() / "a";
+    Escribe(fichero, "uno");
+    EXPECT_EQ(LeeFichero(fichero, CreceAlMirarlo(100'000)).Estado, TEstadoLectura::Cambia);
+
+    Escribe(fichero, "uno");
+    const auto masCorto = [](const fs::path& ruta) {
+        auto marca = MarcaDeFichero(ruta);
+        --marca.Longitud;
+        return marca;
+    };
+    EXPECT_EQ(LeeFichero(fichero, masCorto).Estado, TEstadoLectura::Cambia);
+}
+
+TEST_F(FicherosPrueba, LoQueDesapareceMientrasNoSeAbre) {
+    const auto fichero = Carpeta() / "a";
+    Escribe(fichero, "uno");
+    const auto desaparece = [](const fs::path& ruta) {
+        const auto marca = MarcaDeFichero(ruta);
+        fs::remove(ruta);
+        return marca;
+    };
+    const auto lectura = LeeFichero(fichero, desaparece);
+    EXPECT_EQ(lectura.Estado, TEstadoLectura::NoSeAbre);
+    EXPECT_FALSE(lectura.Marca.Existe);
+}
+
 }  // namespace
 }  // namespace analizador

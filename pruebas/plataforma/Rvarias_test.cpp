@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <string>
 
 namespace analizador {
@@ -99,6 +100,76 @@ TEST(Rvarias, EsFechaValida) {
                  {-1, 1, 2006, false}, {257, 1, 2006, false}, {1, 257, 2006, false}};
     for (const auto& [dia, mes, anno, vale] : casos)
         EXPECT_EQ(EsFechaValida(dia, mes, anno), vale) << dia << '/' << mes << '/' << anno;
+}
+
+TEST(Rvarias, VerificaFecha) {
+    using namespace std::chrono;
+    const struct {
+        std::string_view Texto, Fecha;  // empty when refused
+    } casos[] = {
+        {"07/03/1965", "07/03/1965"},
+        {"7/3/1965", "07/03/1965"},
+        {" 7 / 3 / 1 9 6 5 ", "07/03/1965"},
+        {"7 /3 /65  ", "07/03/1965"},
+        {"31/12/24", "31/12/2024"},  // the year is what must not be in the future
+        {"01/01/25", "01/01/1925"},
+        {"01/01/00", "01/01/2000"},
+        {"29/02/00", "29/02/2000"},
+        {"29/02/2000", "29/02/2000"},
+        {"01/01/1900", "01/01/1900"},
+        {"01/01/2090", "01/01/2090"},
+        {"31/12/9999", "31/12/9999"},
+        {"31/02/2001", ""},
+        {"29/02/1900", ""},
+        {"29/02/2023", ""},
+        {"31/12/1899", ""},
+        {"01/01/0001", ""},
+        {"00/01/2000", ""},
+        {"01/00/2000", ""},
+        {"32/01/2000", ""},
+        {"01/13/2000", ""},
+        {"01/01/200", ""},
+        {"01/01/2", ""},
+        {"01/01/20000", ""},
+        {"001/01/2000", ""},
+        {"01/001/2000", ""},
+        {"/01/2000", ""},
+        {"01//2000", ""},
+        {"01/01/", ""},
+        {"01/01", ""},
+        {"01/01/20/00", ""},
+        {"01-01-2000", ""},
+        {"01012000", ""},
+        {"+1/01/2000", ""},
+        {"-1/01/2000", ""},
+        {"1a/01/2000", ""},
+        {"", ""},
+        {"  /  /    ", ""},
+        {"//", ""},
+        {"1", ""},
+    };
+    for (const auto& [texto, fecha] : casos) {
+        const auto leida = VerificaFecha(texto, year(2024) / 6 / 15);
+        EXPECT_EQ(leida ? Fecha_Cad(*leida) : "", fecha) << texto;
+    }
+}
+
+TEST(Rvarias, AnnosDeDosCifras) {
+    using namespace std::chrono;
+    const struct {
+        int Hoy;
+        std::string_view Texto, Fecha;
+    } casos[] = {{1999, "1/1/99", "01/01/1999"},
+                 {1999, "1/1/00", "01/01/1900"},
+                 {2000, "1/1/00", "01/01/2000"},
+                 {2000, "1/1/01", "01/01/1901"},
+                 {2100, "1/1/01", "01/01/2001"},
+                 {2100, "1/1/00", "01/01/2100"},
+                 {1990, "1/1/95", ""}};  // 1895
+    for (const auto& [hoy, texto, fecha] : casos) {
+        const auto leida = VerificaFecha(texto, year(hoy) / 1 / 1);
+        EXPECT_EQ(leida ? Fecha_Cad(*leida) : "", fecha) << hoy << " " << texto;
+    }
 }
 
 }  // namespace

@@ -38,12 +38,19 @@ class OrdenVocabulario : public testing::Test {
     TCarpetaTemporal FCarpeta;
 };
 
-TEST_F(OrdenVocabulario, LosQueSeEntreganNoTienenErrores) {
+TEST_F(OrdenVocabulario, LosQueSeEntreganNoTienenReparos) {
     const auto revision = Analiza({"vocabulario"});
-    EXPECT_EQ(revision.Codigo, 0) << revision.Salida;
+    EXPECT_EQ(revision.Codigo, 0);
     EXPECT_EQ(revision.Errores, "");
-    EXPECT_THAT(revision.Salida, Not(HasSubstr("error: ")));
-    EXPECT_THAT(Lineas(revision.Salida).back(), testing::MatchesRegex("0 errores, [0-9]+ avisos?"));
+    EXPECT_EQ(revision.Salida, "0 errores, 0 avisos\n");
+}
+
+TEST_F(OrdenVocabulario, SinSuMarcaUnRiesgoConocidoEsUnAviso) {
+    Cambia("; conocido: MAYOR\r\n", "");
+    const auto revision = Revisa();
+    EXPECT_EQ(revision.Codigo, 0);
+    EXPECT_THAT(revision.Salida, HasSubstr("[MESES] «MAYO» está dentro de una palabra corriente: MAYOR\n"));
+    EXPECT_EQ(Lineas(revision.Salida).back(), "0 errores, 1 aviso");
 }
 
 TEST_F(OrdenVocabulario, UnErrorSeDiceConSuLineaYDevuelveUno) {
@@ -145,6 +152,20 @@ TEST_F(OrdenVocabulario, ExplicaConElVocabularioCatalan) {
     EXPECT_THAT(Lineas(explicacion.Salida).front(), EndsWith("con CATALAN.INI"));
     EXPECT_THAT(Linea(explicacion, "VECINDAD"), HasSubstr("«VEI DE»"));
     EXPECT_THAT(Linea(explicacion, "BuscaVecindad"), ContainsRegex("municipio +REUS"));
+}
+
+// The longer form of address goes before the one that it begins with.
+TEST_F(OrdenVocabulario, ElTratamientoLargoNoSeQuedaEnElNombre) {
+    for (const std::string tratamiento :
+         {"SENYOR DON", "SR. DON", "SR. D.", "I EL SENYOR DON", "I EL SR. D."}) {
+        const auto explicacion =
+            Analiza({"vocabulario", "--explica",
+                     tratamiento + " JOAN GIL ROS i la SRA. DOÑA ANNA PI, solters", "--catalan"});
+        EXPECT_THAT(Linea(explicacion, "HOMBRE"), HasSubstr("«" + tratamiento + "»")) << explicacion.Errores;
+        EXPECT_THAT(Linea(explicacion, "BuscaPersonas"), ContainsRegex("hombre +GIL ROS, JOAN "));
+        EXPECT_THAT(explicacion.Salida, ContainsRegex("mujer +PI, ANNA "));
+        EXPECT_THAT(explicacion.Salida, Not(ContainsRegex("mujer +, "))) << "nobody without a name";
+    }
 }
 
 // A deed may be called like an order.
