@@ -67,6 +67,8 @@ TDocumentoWord::TDocumentoWord(TObjetoWord documento)
     : FDocumento(std::move(documento)),
       FLongitud(LongitudDe(FDocumento)),
       FTexto(FDocumento),
+      FRango(FDocumento.Objeto("Range", "Range", 0, 0)),
+      FBusqueda(FRango.Objeto("Find", "Find")),
       FSeleccion(*this) {
     FSeleccion.PonIntervalo(SeleccionDelUsuario(FDocumento));
 }
@@ -89,16 +91,15 @@ bool TDocumentoWord::Busca(std::string_view texto, const TOpcionesBusqueda& opci
     if (!buscado) return false;
     // Word looks inside a range that is not empty before it goes beyond: the search begins at its edge.
     const auto [inicio, fin] = FSeleccion.GetIntervalo();
-    const int desde = opciones.Adelante ? fin : inicio;
-    const auto rango = Rango({desde, desde});
-    const auto busqueda = rango.Objeto("Find", "Find");
-    busqueda.Haz("ClearFormatting");
+    const int desde = std::min(opciones.Adelante ? fin : inicio, FLongitud - 1);
+    FRango.Haz("SetRange", desde, desde);
+    FBusqueda.Haz("ClearFormatting");
     const bool hallado =
-        busqueda.Verdad("Execute", *buscado, opciones.DistingueMayusculas, opciones.PalabrasCompletas,
-                        opciones.Comodines, opciones.SuenaComo, opciones.TodasLasFormas, opciones.Adelante,
-                        opciones.Continua ? BUSQUEDA_CONTINUA : BUSQUEDA_PARA, opciones.Formato,
-                        std::u16string(), NO_SUSTITUYE, false, false, false, false);
-    if (hallado) FSeleccion.PonIntervalo(IntervaloDe(rango));
+        FBusqueda.Verdad("Execute", *buscado, opciones.DistingueMayusculas, opciones.PalabrasCompletas,
+                         opciones.Comodines, opciones.SuenaComo, opciones.TodasLasFormas, opciones.Adelante,
+                         opciones.Continua ? BUSQUEDA_CONTINUA : BUSQUEDA_PARA, opciones.Formato,
+                         std::u16string(), NO_SUSTITUYE, false, false, false, false);
+    if (hallado) FSeleccion.PonIntervalo(IntervaloDe(FRango));
     return hallado;
 }
 

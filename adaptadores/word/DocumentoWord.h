@@ -64,6 +64,8 @@ class TDocumentoWord : public TWordDocumentoCustom {
     TObjetoWord FDocumento;
     int FLongitud;
     TTextoWord FTexto;
+    TObjetoWord FRango;  // where a search begins and what it found
+    TObjetoWord FBusqueda;
     TSeleccionWord FSeleccion;
 };
 

@@ -123,7 +123,7 @@ bool Ejecuta(TDocumentoServidor& documento, TRango& rango, const TArgumentos& ar
     return true;
 }
 
-// It begins with the formatting of an earlier search, so that without clearing it nothing is found.
+// Every search begins with the formatting of an earlier one: nothing is found when it is not cleared.
 TVariante EntregaBusqueda(const TLibrosComunes& libros, const TDocumentoComun& documento,
                           const TRangoComun& rango) {
     auto busqueda = Nuevo(libros, documento);
@@ -133,7 +133,7 @@ TVariante EntregaBusqueda(const TLibrosComunes& libros, const TDocumentoComun& d
         return TVariante();
     });
     busqueda->Anade(L"Execute", [=](const TArgumentos& argumentos) {
-        return TVariante(*limpia && Ejecuta(*documento, *rango, argumentos));
+        return TVariante(std::exchange(*limpia, false) && Ejecuta(*documento, *rango, argumentos));
     });
     return Entrega(std::move(busqueda));
 }
@@ -168,6 +168,12 @@ TVariante EntregaRango(const TLibrosComunes& libros, const TDocumentoComun& docu
     });
     objeto->Anade(L"Start", [=](const TArgumentos&) { return TVariante(rango->Intervalo.Inicio); });
     objeto->Anade(L"End", [=](const TArgumentos&) { return TVariante(rango->Intervalo.Fin); });
+    objeto->Anade(L"SetRange", [=](const TArgumentos& argumentos) {
+        const TIntervalo nuevo{argumentos.Entero(0), argumentos.Entero(1)};
+        documento->CompruebaRango(nuevo);
+        rango->Intervalo = nuevo;
+        return TVariante();
+    });
     objeto->Anade(L"TextRetrievalMode",
                   [=](const TArgumentos&) { return EntregaModo(libros, documento, rango); });
     objeto->Anade(L"Paragraphs",
