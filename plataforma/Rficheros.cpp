@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <fstream>
 #include <string>
+#include <system_error>
 #include <utility>
 
 namespace analizador {
@@ -34,6 +35,9 @@ namespace {
 TLecturaFichero LeeUnaVez(const std::filesystem::path& fichero, const TMarcaFichero& marca) {
     errno = 0;
     std::ifstream entrada(fichero, std::ios::binary);
+    std::error_code sinMirar;
+    if (!entrada && std::filesystem::is_directory(fichero, sinMirar))  // not every system opens one
+        return {TEstadoLectura::NoSeLee, marca, {}};
     if (!entrada) return {errno == EACCES ? TEstadoLectura::SinPermiso : TEstadoLectura::NoSeAbre, marca, {}};
     std::string bytes(marca.Longitud + 1, '\0');
     entrada.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
