@@ -8,6 +8,11 @@
 
 namespace analizador {
 
+std::string Utf8DeRuta(const std::filesystem::path& ruta) {
+    const std::u8string texto = ruta.u8string();
+    return {texto.begin(), texto.end()};
+}
+
 std::filesystem::path SlashSep(const std::filesystem::path& ruta, const std::filesystem::path& resto) {
     using TRuta = std::filesystem::path;
     const auto esSeparador = [](TRuta::value_type c) { return c == '/' || c == TRuta::preferred_separator; };
