@@ -28,7 +28,7 @@ class InterfazWindows : public testing::Test {
   protected:
     InterfazWindows() {
         analizador_sesion* sesion = nullptr;
-        EXPECT_EQ(analizador_abre(2, nullptr, nullptr, &sesion), ANALIZADOR_BIEN)
+        EXPECT_EQ(analizador_abre(2, CARPETA_VOCABULARIO, CARPETA_TABLAS, &sesion), ANALIZADOR_BIEN)
             << analizador_error(nullptr);
         Sesion.reset(sesion);
     }
