@@ -26,11 +26,21 @@ HANDLE FicheroHeredable(const std::filesystem::path& fichero) {
                        TRUNCATE_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
+// The system's programs write in the code page of consoles.
+std::string Utf8DeConsola(const std::string& texto) {
+    std::wstring ancho(texto.size(), L'\0');
+    const int longitud = static_cast<int>(texto.size());
+    const int unidades = MultiByteToWideChar(CP_OEMCP, 0, texto.data(), longitud, ancho.data(), longitud);
+    ancho.resize(static_cast<std::size_t>(unidades));
+    const std::u8string utf8 = std::filesystem::path(ancho).u8string();
+    return {utf8.begin(), utf8.end()};
+}
+
 std::string Contenido(const std::filesystem::path& fichero) {
     std::ifstream entrada(fichero, std::ios::binary);
     std::string texto{std::istreambuf_iterator<char>(entrada), {}};
     std::erase(texto, '\r');
-    return texto;
+    return Utf8DeConsola(texto);
 }
 
 DWORD Espera(HANDLE proceso) {

@@ -11,7 +11,7 @@ namespace analizador::pruebas {
 
 struct TEjecucion {
     DWORD Codigo = 0;
-    std::string Salida;  // both outputs, lines ended by LF
+    std::string Salida;  // both outputs, UTF-8, lines ended by LF
 };
 
 // Runs a program of the system and waits for it, for a minute at most. Throws std::runtime_error when it does
