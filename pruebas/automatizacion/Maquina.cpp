@@ -44,9 +44,9 @@ std::string Contenido(const std::filesystem::path& fichero) {
 }
 
 DWORD Espera(HANDLE proceso) {
-    constexpr DWORD UN_MINUTO = 60'000;
+    constexpr DWORD CINCO_MINUTOS = 300'000;
     DWORD codigo = 0;
-    if (WaitForSingleObject(proceso, UN_MINUTO) != WAIT_OBJECT_0) {
+    if (WaitForSingleObject(proceso, CINCO_MINUTOS) != WAIT_OBJECT_0) {
         TerminateProcess(proceso, 1);
         throw std::runtime_error("the program does not end");
     }

@@ -14,8 +14,8 @@ struct TEjecucion {
     std::string Salida;  // both outputs, UTF-8, lines ended by LF
 };
 
-// Runs a program of the system and waits for it, for a minute at most. Throws std::runtime_error when it does
-// not start or does not end.
+// Runs a program of the system and waits for it, for five minutes at most. Throws std::runtime_error when it
+// does not start or does not end.
 [[nodiscard]] TEjecucion Ejecuta(std::wstring orden);
 
 // A path as the system's programs want it, between quotes.
