@@ -58,7 +58,7 @@ type
 
     procedure AnalizaFichero(const Fichero: UnicodeString; Opciones: Cardinal = 0);
     procedure AnalizaTexto(const Texto: UnicodeString; Opciones: Cardinal = 0);
-    // Windows: the deed that is active in the Word that is running.
+    { Windows: the deed that is active in the Word that is running. }
     procedure AnalizaWord(Opciones: Cardinal = 0);
     procedure PonVariable(const Nombre, Valor: UnicodeString);
     procedure PonMarcador(const Nombre: UnicodeString);
