@@ -49,8 +49,10 @@ bool TClassAnalizadorAbierto::Analiza(bool SinRevision) {
          &TClassAnalizadorAbierto::EliminaOtorgantesDuplicados},
         {"Generando informe, espere un momento", &TClassAnalizadorAbierto::RellenaPizarra},
     }};
+    std::unique_ptr<TAnalisisEnCurso> enCurso;
     {
         const auto ventana = MuestraMensaje("Analizando el documento, espere un momento.", Propietario);
+        if (WordApp != nullptr) enCurso = WordApp->EmpiezaAnalisis();
         InicializaAnalisis();
         CambiaMensaje("Analizando la cabecera del documento, espere un momento", ventana.get());
         AnalizaCabecera(!SinRevision);
@@ -59,6 +61,7 @@ bool TClassAnalizadorAbierto::Analiza(bool SinRevision) {
             (this->*etapa)();
         }
         Documento().IrAlInicioDocumento();
+        if (enCurso) enCurso->MuestraSeleccion();
     }
     Aceptado = ListaConceptosPreseleccionados();
     return Aceptado;

@@ -1,6 +1,7 @@
 #include "analizador/ConstAnalizador.h"
 
-#include <optional>
+#include <mutex>
+#include <set>
 #include <utility>
 
 #include "plataforma/Rficheros.h"
@@ -27,8 +28,18 @@ TRutasAnalizador& RutasDelProceso() {
     return rutas;
 }
 
-std::optional<std::filesystem::path>& FicheroDelHilo() {
-    thread_local std::optional<std::filesystem::path> fichero;
+// One of the paths ever chosen, a few, which are kept for ever.
+const std::filesystem::path& Guardado(std::filesystem::path fichero) {
+    static std::mutex turno;
+    static std::set<std::filesystem::path> elegidos;
+    const std::lock_guard guarda(turno);
+    return *elegidos.insert(std::move(fichero)).first;
+}
+
+// A pointer, since with MinGW an object of a thread that needs to be destroyed harms the heap when the thread
+// ends. Nullptr: none chosen.
+const std::filesystem::path*& FicheroDelHilo() {
+    thread_local const std::filesystem::path* fichero = nullptr;
     return fichero;
 }
 
@@ -40,21 +51,21 @@ const TRutasAnalizador& Rutas() {
 
 void PonCarpetaAplicacion(const std::filesystem::path& carpeta) {
     RutasDelProceso() = RutasDeCarpeta(carpeta);
-    FicheroDelHilo().reset();
+    FicheroDelHilo() = nullptr;
 }
 
 void PonCarpetaTokens(const std::filesystem::path& carpeta) {
     PonTokens(RutasDelProceso(), carpeta);
-    FicheroDelHilo().reset();
+    FicheroDelHilo() = nullptr;
 }
 
 const std::filesystem::path& TOKENS_INI() {
-    const auto& fichero = FicheroDelHilo();
-    return fichero ? *fichero : Rutas().CASTELLANO_INI;
+    const auto* const fichero = FicheroDelHilo();
+    return fichero != nullptr ? *fichero : Rutas().CASTELLANO_INI;
 }
 
 void PonTOKENS_INI(std::filesystem::path fichero) {
-    FicheroDelHilo() = std::move(fichero);
+    FicheroDelHilo() = &Guardado(std::move(fichero));
 }
 
 bool EsCastellano() {

@@ -10,6 +10,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(analizador_opciones INTERFACE -Wno-restrict -Wno-maybe-uninitialized)
 endif()
 
+if(WIN32)
+  # Windows 7 or later, wide names, and no more of its headers' macros than needed.
+  target_compile_definitions(analizador_opciones INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
+endif()
+
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)

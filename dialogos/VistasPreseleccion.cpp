@@ -8,6 +8,7 @@
 #include "plataforma/Ansi.h"
 #include "plataforma/Confnvx.h"
 #include "plataforma/Mensaje.h"
+#include "plataforma/Rficheros.h"
 #include "plataforma/Visor.h"
 
 namespace analizador {
@@ -25,7 +26,7 @@ std::string_view Causa(const std::error_code& error) {
 
 void AvisaFichero(std::string_view que, const std::filesystem::filesystem_error& error) {
     std::string texto(que);
-    texto.append(": no se puede escribir ").append(AnsiDeUtf8(error.path1().string()));
+    texto.append(": no se puede escribir ").append(AnsiDeUtf8(Utf8DeRuta(error.path1())));
     texto.append(": ").append(Causa(error.code()));
     Mensajes(TITULO_ATENCION, texto);
 }

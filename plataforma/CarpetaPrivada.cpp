@@ -55,7 +55,7 @@ const fs::path& CarpetaPrivada() {
 void LimpiaCarpetasAbandonadas() {
     std::error_code error;
     for (const auto& entrada : fs::directory_iterator(fs::temp_directory_path(error), error)) {
-        if (!entrada.path().filename().string().starts_with(PREFIJO)) continue;
+        if (!entrada.path().filename().native().starts_with(fs::path(PREFIJO).native())) continue;
         // Locked by nobody: its process is gone.
         if (const auto cerrojo = BloqueaCarpeta(entrada.path(), TEspera::No))
             fs::remove_all(entrada.path(), error);

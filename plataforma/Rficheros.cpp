@@ -3,9 +3,15 @@
 #include <cerrno>
 #include <fstream>
 #include <string>
+#include <system_error>
 #include <utility>
 
 namespace analizador {
+
+std::string Utf8DeRuta(const std::filesystem::path& ruta) {
+    const std::u8string texto = ruta.u8string();
+    return {texto.begin(), texto.end()};
+}
 
 std::filesystem::path SlashSep(const std::filesystem::path& ruta, const std::filesystem::path& resto) {
     using TRuta = std::filesystem::path;
@@ -34,6 +40,9 @@ namespace {
 TLecturaFichero LeeUnaVez(const std::filesystem::path& fichero, const TMarcaFichero& marca) {
     errno = 0;
     std::ifstream entrada(fichero, std::ios::binary);
+    std::error_code sinMirar;
+    if (!entrada && std::filesystem::is_directory(fichero, sinMirar))  // not every system opens one
+        return {TEstadoLectura::NoSeLee, marca, {}};
     if (!entrada) return {errno == EACCES ? TEstadoLectura::SinPermiso : TEstadoLectura::NoSeAbre, marca, {}};
     std::string bytes(marca.Longitud + 1, '\0');
     entrada.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));

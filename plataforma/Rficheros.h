@@ -14,6 +14,9 @@ namespace analizador {
 [[nodiscard]] std::filesystem::path SlashSep(const std::filesystem::path& ruta,
                                              const std::filesystem::path& resto);
 
+// A path as text for messages and files for people, UTF-8 on every system.
+[[nodiscard]] std::string Utf8DeRuta(const std::filesystem::path& ruta);
+
 // The full name of the running program's file; empty when the system does not tell.
 [[nodiscard]] std::filesystem::path RutaPrograma();
 

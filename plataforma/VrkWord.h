@@ -6,6 +6,7 @@
 // Everything here is called from one thread, the one that runs the analysis. Failures of the word processor
 // are thrown as ErrorWord.
 
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -128,9 +129,23 @@ class TWordDocumentoCustom {
     [[nodiscard]] virtual std::vector<TMarcador> GetMarcadores() const = 0;
 };
 
+// An analysis that has begun and not ended; destroying it ends it, in whatever way.
+class TAnalisisEnCurso {
+  public:
+    virtual ~TAnalisisEnCurso() = default;
+
+    // Makes the selection as the analysis leaves it the user's.
+    virtual void MuestraSeleccion() = 0;
+};
+
 class TWordApplicationConDocumentos {
   public:
     virtual ~TWordApplicationConDocumentos() = default;
+
+    // Called when an analysis begins: where the user can go to another document meanwhile or move the
+    // selection, both are kept until the result is destroyed, before the application. Nullptr where nobody
+    // else touches the document.
+    [[nodiscard]] virtual std::unique_ptr<TAnalisisEnCurso> EmpiezaAnalisis() { return nullptr; }
 
     // The active document, or nullptr. It belongs to the application.
     [[nodiscard]] virtual TWordDocumentoCustom* GetDocumentoActivo() = 0;

@@ -4,6 +4,7 @@
 
 #include "plataforma/Ansi.h"
 #include "plataforma/FicheroIni.h"
+#include "plataforma/Rficheros.h"
 #include "plataforma/Rnumcad.h"
 
 namespace analizador {
@@ -11,7 +12,7 @@ namespace analizador {
 namespace {
 
 [[noreturn]] void Rechaza(const std::filesystem::path& fichero, const std::string& causa) {
-    throw ErrorConfiguracion(fichero.string() + ": " + causa);
+    throw ErrorConfiguracion(Utf8DeRuta(fichero) + ": " + causa);
 }
 
 // A whole number of the file, `defecto` when the key is missing or empty.

@@ -15,7 +15,7 @@ namespace Notaria
 
     public sealed class Analizador : IDisposable
     {
-        public const int VersionInterfaz = 1;
+        public const int VersionInterfaz = 2;
 
         [Flags]
         public enum Opciones : uint { Ninguna = 0, ConRevision = 1, ConOrigen = 2, Forzar = 4 }
@@ -31,6 +31,10 @@ namespace Notaria
 
         public void AnalizaTexto(string texto, Opciones opciones = 0) =>
             Comprueba(analizador_analiza_texto16(sesion, texto, (uint)opciones));
+
+        /// <summary>Windows: the deed that is active in the Word that is running.</summary>
+        public void AnalizaWord(Opciones opciones = 0) =>
+            Comprueba(analizador_analiza_word(sesion, IntPtr.Zero, (uint)opciones));
 
         public void PonVariable(string nombre, string valor) =>
             Comprueba(analizador_pon_variable16(sesion, nombre, valor));
@@ -76,6 +80,9 @@ namespace Notaria
 
         [DllImport(Biblioteca, CallingConvention = CallingConvention.Cdecl, CharSet = CharSet.Unicode)]
         private static extern int analizador_analiza_texto16(IntPtr sesion, string texto, uint opciones);
+
+        [DllImport(Biblioteca, CallingConvention = CallingConvention.Cdecl)]
+        private static extern int analizador_analiza_word(IntPtr sesion, IntPtr aplicacion, uint opciones);
 
         [DllImport(Biblioteca, CallingConvention = CallingConvention.Cdecl, CharSet = CharSet.Unicode)]
         private static extern int analizador_pon_variable16(IntPtr sesion, string nombre, string valor);

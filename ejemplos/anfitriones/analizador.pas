@@ -18,7 +18,7 @@ interface
 uses SysUtils;
 
 const
-  ANALIZADOR_VERSION_INTERFAZ = 1;
+  ANALIZADOR_VERSION_INTERFAZ = 2;
 
   ANALIZADOR_BIEN = 0;
   ANALIZADOR_MAL_USO = 1;
@@ -58,6 +58,8 @@ type
 
     procedure AnalizaFichero(const Fichero: UnicodeString; Opciones: Cardinal = 0);
     procedure AnalizaTexto(const Texto: UnicodeString; Opciones: Cardinal = 0);
+    { Windows: the deed that is active in the Word that is running. }
+    procedure AnalizaWord(Opciones: Cardinal = 0);
     procedure PonVariable(const Nombre, Valor: UnicodeString);
     procedure PonMarcador(const Nombre: UnicodeString);
     { Destino '': the analysed file itself. }
@@ -89,6 +91,8 @@ function analizador_analiza_fichero16(sesion: PAnalizadorSesion; fichero: PWideC
   opciones: Cardinal): Integer; cdecl; external BIBLIOTECA;
 function analizador_analiza_texto16(sesion: PAnalizadorSesion; texto: PWideChar;
   opciones: Cardinal): Integer; cdecl; external BIBLIOTECA;
+function analizador_analiza_word(sesion: PAnalizadorSesion; aplicacion: Pointer; opciones: Cardinal): Integer; cdecl;
+  external BIBLIOTECA;
 function analizador_pon_variable16(sesion: PAnalizadorSesion; nombre, valor: PWideChar): Integer; cdecl;
   external BIBLIOTECA;
 function analizador_pon_marcador16(sesion: PAnalizadorSesion; nombre: PWideChar): Integer; cdecl;
@@ -142,6 +146,11 @@ end;
 procedure TAnalizador.AnalizaTexto(const Texto: UnicodeString; Opciones: Cardinal);
 begin
   Comprueba(analizador_analiza_texto16(FSesion, PWideChar(Texto), Opciones));
+end;
+
+procedure TAnalizador.AnalizaWord(Opciones: Cardinal);
+begin
+  Comprueba(analizador_analiza_word(FSesion, nil, Opciones));
 end;
 
 procedure TAnalizador.PonVariable(const Nombre, Valor: UnicodeString);

@@ -11,7 +11,7 @@ import ctypes.util
 import json
 import os
 
-VERSION_INTERFAZ = 1
+VERSION_INTERFAZ = 2
 CON_REVISION, CON_ORIGEN, FORZAR = 1, 2, 4
 
 _TEXTO, _SESION = ctypes.c_char_p, ctypes.c_void_p
@@ -24,6 +24,7 @@ _FUNCIONES = {
     "analizador_error": (_TEXTO, [_SESION]),
     "analizador_analiza_fichero": (ctypes.c_int, [_SESION, _TEXTO, ctypes.c_uint]),
     "analizador_analiza_texto": (ctypes.c_int, [_SESION, _TEXTO, ctypes.c_uint]),
+    "analizador_analiza_word": (ctypes.c_int, [_SESION, ctypes.c_void_p, ctypes.c_uint]),
     "analizador_pon_variable": (ctypes.c_int, [_SESION, _TEXTO, _TEXTO]),
     "analizador_pon_marcador": (ctypes.c_int, [_SESION, _TEXTO]),
     "analizador_texto": (_TEXTO, [_SESION, _TEXTO]),
@@ -87,6 +88,10 @@ class Sesion:
         for nombre in marcadores:
             self._comprueba(self._b.analizador_pon_marcador(self._sesion, _utf8(nombre)))
         self._comprueba(self._b.analizador_analiza_texto(self._sesion, _utf8(texto), opciones))
+
+    def analiza_word(self, opciones=0):
+        """Windows: the deed that is active in the Word that is running."""
+        self._comprueba(self._b.analizador_analiza_word(self._sesion, None, opciones))
 
     def texto(self, donde):
         """The fact at a JSON pointer; None when there is none."""

@@ -1,13 +1,10 @@
 #pragma once
 
 #include <filesystem>
-#include <memory>
 #include <optional>
-#include <string>
 
 #include "adaptadores/docx/FicheroDocx.h"
-#include "analizador/ClaseAnalizadorAbierto.h"
-#include "plataforma/VrkWord.h"
+#include "programas/analiza/AnalisisEscritura.h"
 
 namespace analizador {
 
@@ -18,38 +15,18 @@ struct TOpcionesAnalisis {
     bool Revisa = false;  // windows are installed: the user reviews, and only what was accepted is saved
 };
 
-// A deed analysed: the session with its results, or why it could not be.
-class TAnalisisFichero {
+// The deed of a document file, analysed.
+class TAnalisisFichero : public TAnalisisEscritura {
   public:
     // Never throws for what is wrong with the file or the tables: see Error().
     TAnalisisFichero(const std::filesystem::path& fichero, const TOpcionesAnalisis& opciones);
 
-    // The same of a deed that is in no file, so that `opciones.Salida` has no meaning.
-    TAnalisisFichero(TContenidoDocumento contenido, const TOpcionesAnalisis& opciones);
-
     // Saves the file that was analysed with the bookmarks of its sections, as TFicheroDocx::Guarda. Only
-    // without an error. Throws ErrorDocumento, also when the deed is in no file.
+    // without an error. Throws ErrorDocumento.
     void Guarda(const std::filesystem::path& destino, bool forzar);
 
-    // One line of Castilian in UTF-8 that names file and cause; empty when all went well.
-    [[nodiscard]] const std::string& Error() const { return FError; }
-
-    // The session, only without an error. The current token file of this thread is that of the deed until the
-    // next analysis.
-    [[nodiscard]] const TClassAnalizadorAbierto& Sesion() const { return *FSesion; }
-
-    // The deed as it was analysed, for where facts were read. Only without an error.
-    [[nodiscard]] const TWordDocumentoCustom& Documento() const { return *FSesion->GetDocumento(); }
-
   private:
-    template <class TAccion>
-    void Intenta(const std::string& deQue, TAccion accion);
-    void Analiza(TContenidoDocumento contenido, const TOpcionesAnalisis& opciones);
-
-    std::string FError;
     std::optional<TFicheroDocx> FDocx;
-    std::unique_ptr<TWordApplicationConDocumentos> FAplicacion;
-    std::unique_ptr<TClassAnalizadorAbierto> FSesion;
 };
 
 }  // namespace analizador

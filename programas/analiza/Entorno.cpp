@@ -11,20 +11,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The program's own folder, or its share folder when it is installed.
-fs::path CarpetaAplicacion() {
+// The program's own folder, or its share folder when it is installed, or the other one.
+fs::path CarpetaAplicacion(const std::optional<fs::path>& otra) {
     const fs::path propia = RutaPrograma().parent_path();
     const fs::path instalada = propia.parent_path() / "share" / "analizador";
     std::error_code error;
-    return !fs::exists(propia / "CONFIG", error) && fs::exists(instalada / "CONFIG", error) ? instalada
-                                                                                            : propia;
+    for (const auto& carpeta : {propia, instalada})
+        if (fs::exists(carpeta / "CONFIG", error)) return carpeta;
+    return otra.value_or(propia);
 }
 
 void ExigeCarpeta(const fs::path& carpeta) {
     std::error_code error;
     if (fs::is_directory(carpeta, error)) return;
     const bool esOtraCosa = fs::exists(carpeta, error);
-    throw ErrorConfiguracion(carpeta.string() +
+    throw ErrorConfiguracion(Utf8DeRuta(carpeta) +
                              (esOtraCosa ? ": no es una carpeta" : ": no existe esa carpeta"));
 }
 
@@ -32,11 +33,11 @@ void ExigeCarpeta(const fs::path& carpeta) {
 void ExigeVocabulario(const fs::path& fichero) {
     std::error_code error;
     if (!fs::is_regular_file(fichero, error))
-        throw ErrorConfiguracion(fichero.string() + ": falta ese vocabulario");
+        throw ErrorConfiguracion(Utf8DeRuta(fichero) + ": falta ese vocabulario");
 }
 
-TConfigIni LeeConfig(const std::optional<fs::path>& config) {
-    EligeVocabularios(config);
+TConfigIni LeeConfig(const std::optional<fs::path>& config, const std::optional<fs::path>& otra) {
+    EligeVocabularios(config, otra);
     return {Rutas().PATH_TOKEN_AP / "OFICINA.INI", Rutas().PATH_APLICACION};
 }
 
@@ -47,8 +48,8 @@ fs::path ElegidaDe(const std::optional<fs::path>& tablas, const TConfigIni& conf
 
 }  // namespace
 
-void EligeVocabularios(const std::optional<fs::path>& config) {
-    PonCarpetaAplicacion(CarpetaAplicacion());
+void EligeVocabularios(const std::optional<fs::path>& config, const std::optional<fs::path>& otra) {
+    PonCarpetaAplicacion(CarpetaAplicacion(otra));
     if (config) {
         ExigeCarpeta(*config);
         PonCarpetaTokens(*config);
@@ -57,7 +58,8 @@ void EligeVocabularios(const std::optional<fs::path>& config) {
     ExigeVocabulario(Rutas().CATALAN_INI);
 }
 
-TAjustesOficina::TAjustesOficina(const std::optional<fs::path>& config, const std::optional<fs::path>& tablas)
-    : FConfig(LeeConfig(config)), FCarpetaTablas(ElegidaDe(tablas, FConfig)), FTablas(FCarpetaTablas) {}
+TAjustesOficina::TAjustesOficina(const std::optional<fs::path>& config, const std::optional<fs::path>& tablas,
+                                 const std::optional<fs::path>& otra)
+    : FConfig(LeeConfig(config, otra)), FCarpetaTablas(ElegidaDe(tablas, FConfig)), FTablas(FCarpetaTablas) {}
 
 }  // namespace analizador

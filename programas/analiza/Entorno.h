@@ -10,17 +10,20 @@
 namespace analizador {
 
 // Makes `config` the folder of the token files; by default CONFIG beside the program, else in its installed
-// share folder. Throws ErrorConfiguracion when it is no folder or lacks one of them.
-void EligeVocabularios(const std::optional<std::filesystem::path>& config);
+// share folder, else in `otra`. Throws ErrorConfiguracion when it is no folder or lacks one of them.
+void EligeVocabularios(const std::optional<std::filesystem::path>& config,
+                       const std::optional<std::filesystem::path>& otra = std::nullopt);
 
 // The settings and the tables of an office, installed for as long as this object lives. No windows: nobody
 // accepts a review.
 class TAjustesOficina {
   public:
-    // `config`: the folder of the token files and OFICINA.INI, as EligeVocabularios has it. `tablas`: the
-    // folder of the reference tables; by default the one that OFICINA.INI says. Throws ErrorConfiguracion.
+    // `config`, `otra`: the folder of the token files and OFICINA.INI, as EligeVocabularios has it. `tablas`:
+    // the folder of the reference tables; by default the one that OFICINA.INI says. Throws
+    // ErrorConfiguracion.
     TAjustesOficina(const std::optional<std::filesystem::path>& config,
-                    const std::optional<std::filesystem::path>& tablas);
+                    const std::optional<std::filesystem::path>& tablas,
+                    const std::optional<std::filesystem::path>& otra = std::nullopt);
 
     // The folder of the reference tables in use.
     [[nodiscard]] const std::filesystem::path& CarpetaTablas() const { return FCarpetaTablas; }

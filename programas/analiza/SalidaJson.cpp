@@ -5,6 +5,7 @@
 #include "analizador/ConstAnalizador.h"
 #include "dialogos/ListaConceptosPreseleccionados.h"
 #include "plataforma/Ansi.h"
+#include "plataforma/Rficheros.h"
 #include "plataforma/Rnumcad.h"
 #include "programas/analiza/SalidaOrigen.h"
 
@@ -107,10 +108,10 @@ std::string LineaJsonModelo() {
     return json.dump();
 }
 
-std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis,
+std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisEscritura& analisis,
                       TPedidoJson pedido) {
     TJson json;
-    json["archivo"] = fichero.string();
+    json["archivo"] = Utf8DeRuta(fichero);
     if (!analisis.Error().empty()) {
         json["error"] = analisis.Error();
     } else {

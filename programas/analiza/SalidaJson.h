@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "programas/analiza/AnalisisFichero.h"
+#include "programas/analiza/AnalisisEscritura.h"
 
 namespace analizador {
 
@@ -14,7 +14,7 @@ struct TPedidoJson {
 
 // The analysis of a file as one line of JSON (UTF-8, without the line end): its results, or only the file and
 // the error.
-[[nodiscard]] std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisFichero& analisis,
+[[nodiscard]] std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisEscritura& analisis,
                                     TPedidoJson pedido = {});
 
 // A line with the same keys and nothing found, a concept and a party without facts in their lists: what keys

@@ -56,7 +56,7 @@ class TEscritorDeOrigenes {
 
 }  // namespace
 
-TJson JsonOrigen(const TAnalisisFichero& analisis) {
+TJson JsonOrigen(const TAnalisisEscritura& analisis) {
     const TClassAnalizadorAbierto& sesion = analisis.Sesion();
     const TEscritorDeOrigenes escritor(analisis.Documento());
     const TOrigenCabecera& origen = sesion.Cabecera.Origen;

@@ -4,7 +4,9 @@
 #include <system_error>
 
 #include "analizador/ConstAnalizador.h"
+#include "plataforma/Rficheros.h"
 #include "programas/analiza/Entorno.h"
+#include "programas/biblioteca/Fuentes.h"
 
 namespace analizador {
 
@@ -30,8 +32,8 @@ bool SonLaMisma(const fs::path& una, const fs::path& otra) {
 
 void ExigeLaMisma(const std::optional<fs::path>& pedida, const fs::path& enUso) {
     if (pedida && !SonLaMisma(*pedida, enUso))
-        throw ErrorConfiguracion(pedida->string() + ": hay sesiones abiertas con otra carpeta, " +
-                                 enUso.string());
+        throw ErrorConfiguracion(Utf8DeRuta(*pedida) + ": hay sesiones abiertas con otra carpeta, " +
+                                 Utf8DeRuta(enUso));
 }
 
 }  // namespace
@@ -40,7 +42,7 @@ TAjustesCompartidos::TAjustesCompartidos(const TCarpetas& carpetas) {
     TEnUso& enUso = EnUso();
     const std::lock_guard cierra(enUso.Cerrojo);
     if (enUso.Sesiones == 0) {
-        enUso.Ajustes.emplace(carpetas.Vocabularios, carpetas.Tablas);
+        enUso.Ajustes.emplace(carpetas.Vocabularios, carpetas.Tablas, CarpetaDeLaBiblioteca());
     } else {
         ExigeLaMisma(carpetas.Vocabularios, Rutas().PATH_TOKEN_AP);
         ExigeLaMisma(carpetas.Tablas, enUso.Ajustes->CarpetaTablas());

@@ -118,6 +118,13 @@ int analizador_analiza_texto16(analizador_sesion* sesion, const analizador_utf16
     return AnalizaTexto(sesion, texto, opciones);
 }
 
+int analizador_analiza_word(analizador_sesion* sesion, void* aplicacion, unsigned opciones) {
+    return LlamaSesion(sesion, [&](auto& suya) {
+        suya.Empieza();
+        suya.AnalizaWord(aplicacion, opciones);
+    });
+}
+
 int analizador_pon_variable(analizador_sesion* sesion, const char* nombre, const char* valor) {
     return PonVariable(sesion, nombre, valor);
 }

@@ -24,9 +24,10 @@ class TResultados {
     // How many elements the list has.
     [[nodiscard]] int Cuenta(const std::string& donde) const;
 
-  private:
+    // The fact as it is.
     [[nodiscard]] const nlohmann::ordered_json& Valor(const std::string& donde) const;
 
+  private:
     nlohmann::ordered_json FJson;
     std::map<std::string, std::string> FTextos;  // those given out: a map never moves its values
     std::map<std::string, std::vector<analizador_utf16>> FTextos16;

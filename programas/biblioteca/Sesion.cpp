@@ -2,10 +2,12 @@
 
 #include <utility>
 
+#include "adaptadores/docx/FicheroDocx.h"
 #include "dialogos/ListaConceptosPreseleccionados.h"
 #include "plataforma/Ansi.h"
 #include "programas/analiza/SalidaJson.h"
 #include "programas/biblioteca/ErrorInterfaz.h"
+#include "programas/biblioteca/Fuentes.h"
 #include "programas/biblioteca/Textos.h"
 #include "programas/biblioteca/analizador.h"
 
@@ -18,8 +20,12 @@ void ExigeOpciones(unsigned opciones, unsigned permitidas) {
         throw ErrorInterfaz(ANALIZADOR_MAL_USO, "opciones que no se conocen o no van aquí");
 }
 
+bool ConRevision(unsigned opciones) {
+    return (opciones & ANALIZADOR_CON_REVISION) != 0;
+}
+
 void ExigeVentanas(unsigned opciones) {
-    if ((opciones & ANALIZADOR_CON_REVISION) != 0 && InstalaVistaPreseleccion::Actual() == nullptr)
+    if (ConRevision(opciones) && InstalaVistaPreseleccion::Actual() == nullptr)
         throw ErrorInterfaz(ANALIZADOR_SIN_VENTANAS, "no hay ventanas instaladas para la revisión");
 }
 
@@ -47,28 +53,35 @@ void TSesionAnfitrion::Empieza() {
 }
 
 // The JSON is made at once: the language is the thread's until another deed is analysed on it.
-template <class... TQue>
-void TSesionAnfitrion::Analiza(const std::string& archivo, unsigned opciones, TQue&&... que) {
-    TOpcionesAnalisis pedido;
-    pedido.Revisa = (opciones & ANALIZADOR_CON_REVISION) != 0;
-    FAnalisis.emplace(std::forward<TQue>(que)..., pedido);
-    if (!FAnalisis->Error().empty()) throw ErrorInterfaz(ANALIZADOR_NO_ANALIZADA, FAnalisis->Error());
-    const TPedidoJson json{.Origen = (opciones & ANALIZADOR_CON_ORIGEN) != 0, .Revisado = pedido.Revisa};
-    FResultados.emplace(nlohmann::ordered_json::parse(LineaJson(archivo, *FAnalisis, json)));
+void TSesionAnfitrion::Recoge(const std::string& archivo, unsigned opciones,
+                              std::unique_ptr<TAnalisisEscritura> analisis) {
+    if (!analisis->Error().empty()) throw ErrorInterfaz(ANALIZADOR_NO_ANALIZADA, analisis->Error());
+    const TPedidoJson json{.Origen = (opciones & ANALIZADOR_CON_ORIGEN) != 0,
+                           .Revisado = ConRevision(opciones)};
+    FResultados.emplace(nlohmann::ordered_json::parse(LineaJson(archivo, *analisis, json)));
+    FAceptada = analisis->Sesion().Aceptado;
+    if (!FFichero.empty()) FAnalisis = std::move(analisis);
 }
 
 void TSesionAnfitrion::AnalizaFichero(const std::string& fichero, unsigned opciones) {
     ExigeOpciones(opciones, ANALIZADOR_CON_REVISION | ANALIZADOR_CON_ORIGEN);
     ExigeVentanas(opciones);
     FFichero = RutaDe(fichero);
-    Analiza(fichero, opciones, FFichero);
+    Recoge(fichero, opciones, AnalizaDocx(FFichero, ConRevision(opciones)));
 }
 
 void TSesionAnfitrion::AnalizaTexto(const std::string& texto, unsigned opciones) {
     ExigeOpciones(opciones, ANALIZADOR_CON_REVISION | ANALIZADOR_CON_ORIGEN);
     ExigeVentanas(opciones);
     FActual.Texto = AnsiDeUtf8(ConFinesDeParrafo(texto));
-    Analiza("", opciones, std::exchange(FActual, {}));
+    Recoge("", opciones,
+           std::make_unique<TAnalisisEscritura>(std::exchange(FActual, {}), ConRevision(opciones)));
+}
+
+void TSesionAnfitrion::AnalizaWord(void* aplicacion, unsigned opciones) {
+    ExigeOpciones(opciones, ANALIZADOR_CON_REVISION);
+    ExigeVentanas(opciones);
+    Recoge("", opciones, analizador::AnalizaWord(aplicacion, ConRevision(opciones)));
 }
 
 void TSesionAnfitrion::PonVariable(const std::string& nombre, const std::string& valor) {
@@ -91,17 +104,16 @@ TResultados& TSesionAnfitrion::Resultados() {
 
 bool TSesionAnfitrion::Aceptada() const {
     ExigeResultados();
-    return FAnalisis->Sesion().Aceptado;
+    return FAceptada;
 }
 
 void TSesionAnfitrion::Guarda(const std::optional<std::filesystem::path>& destino, unsigned opciones) {
     ExigeOpciones(opciones, ANALIZADOR_FORZAR);
     ExigeResultados();
     if (FFichero.empty())
-        throw ErrorInterfaz(ANALIZADOR_SIN_RESULTADOS,
-                            "lo analizado es un texto: no hay fichero que guardar");
+        throw ErrorInterfaz(ANALIZADOR_SIN_RESULTADOS, "lo analizado no es un fichero: no hay qué guardar");
     try {
-        FAnalisis->Guarda(destino.value_or(FFichero), (opciones & ANALIZADOR_FORZAR) != 0);
+        GuardaDocx(*FAnalisis, destino.value_or(FFichero), (opciones & ANALIZADOR_FORZAR) != 0);
     } catch (const ErrorDocumento& error) {
         throw ErrorInterfaz(ANALIZADOR_NO_GUARDADA, error.what());
     }

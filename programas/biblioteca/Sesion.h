@@ -1,12 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "plataforma/VrkWord.h"
-#include "programas/analiza/AnalisisFichero.h"
+#include "programas/analiza/AnalisisEscritura.h"
 #include "programas/biblioteca/AjustesCompartidos.h"
 #include "programas/biblioteca/Resultados.h"
 
@@ -24,6 +25,8 @@ class TSesionAnfitrion {
     void Empieza();
     void AnalizaFichero(const std::string& fichero, unsigned opciones);
     void AnalizaTexto(const std::string& texto, unsigned opciones);
+    // Keeps nothing of Word's.
+    void AnalizaWord(void* aplicacion, unsigned opciones);
     void PonVariable(const std::string& nombre, const std::string& valor);
     void PonMarcador(const std::string& nombre);
 
@@ -34,14 +37,14 @@ class TSesionAnfitrion {
 
   private:
     void ExigeResultados() const;
-    template <class... TQue>
-    void Analiza(const std::string& archivo, unsigned opciones, TQue&&... que);
+    void Recoge(const std::string& archivo, unsigned opciones, std::unique_ptr<TAnalisisEscritura> analisis);
 
     TAjustesCompartidos FAjustes;
     TContenidoDocumento FSiguiente;  // the variables and bookmarks of the text that is analysed next
     TContenidoDocumento FActual;     // those of this one
     std::filesystem::path FFichero;  // what was analysed; empty when a text
-    std::optional<TAnalisisFichero> FAnalisis;
+    std::unique_ptr<TAnalisisEscritura> FAnalisis;  // of a file, for saving it
+    bool FAceptada = false;
     std::optional<TResultados> FResultados;
 };
 

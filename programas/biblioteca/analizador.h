@@ -49,7 +49,7 @@ extern "C" {
 
 /* The functions that this header declares: raised by one whenever some are added. None is ever removed or
    changed under the same name of the library's file. */
-#define ANALIZADOR_VERSION_INTERFAZ 1
+#define ANALIZADOR_VERSION_INTERFAZ 2
 
 /* What the functions return. */
 enum {
@@ -96,9 +96,9 @@ ANALIZADOR_API int analizador_comprueba(int interfaz);
    why.
 
    `interfaz`: ANALIZADOR_VERSION_INTERFAZ. `vocabularios`: the folder of CASTELLANO.INI, CATALAN.INI and,
-   where there is one, OFICINA.INI; NULL: CONFIG beside the host program, else in its installed share folder.
-   `tablas`: the folder of the reference tables; NULL: the one that OFICINA.INI says, else TABLAS beside
-   CONFIG in the host's folder.
+   where there is one, OFICINA.INI; NULL: CONFIG beside the host program, else in its installed share folder,
+   else, on Windows, beside the library. `tablas`: the folder of the reference tables; NULL: the one that
+   OFICINA.INI says, else TABLAS in the folder where CONFIG was looked for.
 
    The folders are the same for all the sessions of a process: while some are open, NULL means theirs and
    other folders are refused (ANALIZADOR_CONFIGURACION). Names that are not absolute count from the current
@@ -119,7 +119,8 @@ ANALIZADOR_API const analizador_utf16* analizador_error16(analizador_sesion* ses
 /* ---- Analyses. Each one first forgets the results of the one before, and with them their texts. */
 
 /* Analyses a document file (.docx, .docm, .dotx, .dotm), which is read whole and never written. `opciones`:
-   ANALIZADOR_CON_REVISION, ANALIZADOR_CON_ORIGEN. */
+   ANALIZADOR_CON_REVISION, ANALIZADOR_CON_ORIGEN. On Windows ANALIZADOR_NO_ANALIZADA: there the library reads
+   no files. */
 ANALIZADOR_API int analizador_analiza_fichero(analizador_sesion* sesion, const char* fichero,
                                               unsigned opciones);
 ANALIZADOR_API int analizador_analiza_fichero16(analizador_sesion* sesion, const analizador_utf16* fichero,
@@ -132,6 +133,12 @@ ANALIZADOR_API int analizador_analiza_fichero16(analizador_sesion* sesion, const
 ANALIZADOR_API int analizador_analiza_texto(analizador_sesion* sesion, const char* texto, unsigned opciones);
 ANALIZADOR_API int analizador_analiza_texto16(analizador_sesion* sesion, const analizador_utf16* texto,
                                               unsigned opciones);
+
+/* Analyses the document that is active in Word, which gets the bookmarks of its sections; on other systems
+   ANALIZADOR_NO_ANALIZADA. `aplicacion`: the IDispatch of Word's Application object, which is not kept; NULL:
+   the Word that is running. COM is started on this thread for as long as it lasts when the host has not.
+   `opciones`: ANALIZADOR_CON_REVISION. Since interface 2. */
+ANALIZADOR_API int analizador_analiza_word(analizador_sesion* sesion, void* aplicacion, unsigned opciones);
 
 /* Sets a document variable of the text that is analysed next: EMPLEADO, who wrote the deed; XML, what the
    host stored with it. Of two of one name (in any case) the first counts. */
@@ -165,8 +172,8 @@ ANALIZADOR_API int analizador_aceptada(analizador_sesion* sesion);
 
 /* Saves the analysed file with the bookmarks of the sections that were found, all else unchanged. `destino`:
    the new file, which may be there already; NULL: onto the analysed file itself. `opciones`:
-   ANALIZADOR_FORZAR. ANALIZADOR_SIN_RESULTADOS also when what was analysed is a text. After a failure the old
-   file is whole. */
+   ANALIZADOR_FORZAR. ANALIZADOR_SIN_RESULTADOS also when what was analysed is no file. After a failure the
+   old file is whole. */
 ANALIZADOR_API int analizador_guarda(analizador_sesion* sesion, const char* destino, unsigned opciones);
 ANALIZADOR_API int analizador_guarda16(analizador_sesion* sesion, const analizador_utf16* destino,
                                        unsigned opciones);

@@ -33,7 +33,7 @@ TEST(VersionBiblioteca, DiceAlAnfitrionSiEsMasNuevoQueElla) {
         EXPECT_EQ(sesion == nullptr, codigo != ANALIZADOR_BIEN) << interfaz;
     }
     analizador_comprueba(7);
-    EXPECT_STREQ(analizador_error(nullptr), "la biblioteca tiene la interfaz 1 y el programa pide la 7");
+    EXPECT_STREQ(analizador_error(nullptr), "la biblioteca tiene la interfaz 2 y el programa pide la 7");
 }
 
 TEST(AperturaBiblioteca, DiceQueCarpetaNoSirve) {

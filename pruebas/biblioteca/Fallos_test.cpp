@@ -22,6 +22,7 @@ TEST_F(FallosBiblioteca, SinSesionTodoEsMalUso) {
     const std::vector<int> codigos = {analizador_analiza_fichero(nullptr, "x", 0),
                                       analizador_analiza_fichero16(nullptr, u16.data(), 0),
                                       analizador_analiza_texto(nullptr, "x", 0),
+                                      analizador_analiza_word(nullptr, nullptr, 0),
                                       analizador_analiza_texto16(nullptr, u16.data(), 0),
                                       analizador_pon_variable(nullptr, "x", "x"),
                                       analizador_pon_variable16(nullptr, u16.data(), u16.data()),
@@ -45,6 +46,14 @@ TEST_F(FallosBiblioteca, AntesDeAnalizarNoHayResultados) {
     EXPECT_EQ(analizador_aceptada(sesion_.get()), -1);
     EXPECT_EQ(analizador_guarda(sesion_.get(), nullptr, 0), ANALIZADOR_SIN_RESULTADOS);
     EXPECT_EQ(Error(sesion_), "no hay ninguna escritura analizada en la sesión");
+}
+
+TEST_F(FallosBiblioteca, AquiNoHayWord) {
+    ASSERT_EQ(analizador_analiza_texto(sesion_.get(), "NUMERO DOS.\r", 0), ANALIZADOR_BIEN);
+    EXPECT_EQ(analizador_analiza_word(sesion_.get(), nullptr, 0), ANALIZADOR_NO_ANALIZADA);
+    EXPECT_THAT(Error(sesion_), HasSubstr("no hay Word"));
+    EXPECT_EQ(analizador_texto(sesion_.get(), ""), nullptr);
+    EXPECT_EQ(analizador_analiza_word(sesion_.get(), nullptr, ANALIZADOR_CON_ORIGEN), ANALIZADOR_MAL_USO);
 }
 
 TEST_F(FallosBiblioteca, UnFicheroQueNoSirveDiceCualYPorQue) {

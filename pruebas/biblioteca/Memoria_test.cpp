@@ -105,7 +105,7 @@ TEST_F(MemoriaBiblioteca, UnTextoVacioNoTieneHechos) {
 TEST_F(MemoriaBiblioteca, NoHayFicheroQueGuardar) {
     ASSERT_EQ(analizador_analiza_texto(sesion_.get(), texto_.c_str(), 0), ANALIZADOR_BIEN);
     EXPECT_EQ(analizador_guarda(sesion_.get(), nullptr, 0), ANALIZADOR_SIN_RESULTADOS);
-    EXPECT_EQ(Error(sesion_), "lo analizado es un texto: no hay fichero que guardar");
+    EXPECT_EQ(Error(sesion_), "lo analizado no es un fichero: no hay qué guardar");
     EXPECT_EQ(Texto(sesion_, "/Cuantias/0").empty(), false);
 }
 

@@ -112,6 +112,9 @@ TEST(Proveedor, NoDejaNingunFicheroAbierto) {
 
 // While one thread replaces the table over and over, the others find the old or the new content, whole.
 TEST(Proveedor, VariosHilosMientrasSeCambiaLaTabla) {
+#ifdef _WIN32
+    GTEST_SKIP() << "here a file that is being read is not replaced, nor one that is being replaced opened";
+#endif
     const TCarpetaPrueba carpeta;
     const std::string vieja = Nombres(std::vector<std::string>(200, "ANA"));
     const std::string nueva = Nombres(std::vector<std::string>(300, "EVA"));

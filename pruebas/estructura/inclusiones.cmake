@@ -3,7 +3,7 @@ cmake_minimum_required(VERSION 3.25)
 # Checks that every folder includes only what it may. Run with -DRAIZ=<source tree>.
 #
 # The core (plataforma, rutinas, modelo, dialogos, analizador) takes nothing but the standard library from outside; the
-# one file that asks the operating system is named below.
+# files that ask the operating system are named below.
 
 set(NORMAS
   "plataforma|plataforma"
@@ -16,9 +16,10 @@ set(NORMAS
   "adaptadores/dbase|adaptadores/dbase plataforma modelo dialogos"
   "adaptadores/ini|adaptadores/ini plataforma modelo dialogos"
   "adaptadores/consola|adaptadores/consola plataforma modelo dialogos"
+  "adaptadores/word|adaptadores/word plataforma modelo dialogos"
   "adaptadores/qt|adaptadores/qt plataforma modelo dialogos")
 set(NUCLEO plataforma rutinas modelo dialogos analizador)
-set(CON_SISTEMA plataforma/Sistema_posix.cpp)
+set(CON_SISTEMA plataforma/Sistema_posix.cpp plataforma/Sistema_windows.cpp)
 
 set(ESTANDAR
   algorithm any array atomic bit bitset cassert cctype cerrno cfloat charconv chrono cinttypes climits cmath compare

@@ -14,6 +14,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
+#ifdef _WIN32
+constexpr const char* VARIABLE_TEMPORALES = "TMP";
+// An empty value removes the variable.
+void PonVariable(const char* nombre, const std::string& valor) {
+    _putenv_s(nombre, valor.c_str());
+}
+#else
+constexpr const char* VARIABLE_TEMPORALES = "TMPDIR";
+void PonVariable(const char* nombre, const std::string& valor) {
+    if (valor.empty())
+        unsetenv(nombre);
+    else
+        setenv(nombre, valor.c_str(), 1);
+}
+#endif
+
 // A process that has a private folder, run by the shell with one end of a pipe.
 class TProceso {
   public:
@@ -34,20 +50,21 @@ class CarpetaPrivadaPrueba : public testing::Test {
   protected:
     CarpetaPrivadaPrueba() {
         fs::create_directory(FTemporales);
-        setenv("TMPDIR", FTemporales.c_str(), 1);
+        PonVariable(VARIABLE_TEMPORALES, FTemporales.string());
     }
     ~CarpetaPrivadaPrueba() override {
-        if (FAnterior.empty())
-            unsetenv("TMPDIR");
-        else
-            setenv("TMPDIR", FAnterior.c_str(), 1);
+        PonVariable(VARIABLE_TEMPORALES, FAnterior);
         fs::remove_all(FTemporales);
     }
 
     // The folder of a process that has ended so.
     [[nodiscard]] static fs::path CarpetaDeUnoQue(const std::string& acaba) {
-        const TProceso proceso(std::string(PROCESO_CON_CARPETA) + " " + acaba, "r");
+        const TProceso proceso(Programa() + " " + acaba, "r");
         return LeeRuta(proceso.Tubo());
+    }
+
+    [[nodiscard]] static std::string Programa() {
+        return fs::path(PROCESO_CON_CARPETA).make_preferred().string();
     }
 
     [[nodiscard]] static fs::path LeeRuta(FILE* de) {
@@ -59,11 +76,14 @@ class CarpetaPrivadaPrueba : public testing::Test {
     fs::path FTemporales = CarpetaPrivada() / "temporales";
 
   private:
-    std::string FAnterior = std::getenv("TMPDIR") == nullptr ? "" : std::getenv("TMPDIR");
+    std::string FAnterior =
+        std::getenv(VARIABLE_TEMPORALES) == nullptr ? "" : std::getenv(VARIABLE_TEMPORALES);
 };
 
 TEST_F(CarpetaPrivadaPrueba, EsSoloDelUsuarioYSiempreLaMisma) {
+#ifndef _WIN32  // there the permissions are a list that the library does not read
     EXPECT_EQ(fs::status(CarpetaPrivada()).permissions(), fs::perms::owner_all);
+#endif
     EXPECT_GE(CarpetaPrivada().filename().string().size(), std::string("analizador-").size() + 32);
     EXPECT_EQ(CarpetaPrivada(), CarpetaPrivada());
 }
@@ -90,10 +110,11 @@ TEST_F(CarpetaPrivadaPrueba, ElProcesoSiguienteQuitaLaDelMuerto) {
 
 TEST_F(CarpetaPrivadaPrueba, LaDeUnProcesoVivoNoSeToca) {
     const auto aviso = FTemporales / "ruta";
-    const TProceso vivo(std::string(PROCESO_CON_CARPETA) + " espera > " + aviso.string(), "w");
+    const TProceso vivo(Programa() + " espera > " + aviso.string(), "w");
     fs::path carpeta;
     while (carpeta.empty()) {
-        const std::unique_ptr<FILE, int (*)(FILE*)> leido(std::fopen(aviso.c_str(), "r"), std::fclose);
+        const std::unique_ptr<FILE, int (*)(FILE*)> leido(std::fopen(aviso.string().c_str(), "r"),
+                                                          std::fclose);
         if (leido) carpeta = LeeRuta(leido.get());
     }
     LimpiaCarpetasAbandonadas();
@@ -103,12 +124,16 @@ TEST_F(CarpetaPrivadaPrueba, LaDeUnProcesoVivoNoSeToca) {
 TEST_F(CarpetaPrivadaPrueba, LoQueNoEsUnaCarpetaDeEstasNoSeToca) {
     const auto fuera = FTemporales / "fuera";
     fs::create_directory(fuera);
+#ifndef _WIN32  // there a user makes no links
     const auto enlace = FTemporales / "analizador-enlace";
     fs::create_directory_symlink(fuera, enlace);
+#endif
     const auto fichero = FicheroTemporal_(FTemporales, "analizador-", "txt");
     LimpiaCarpetasAbandonadas();
     EXPECT_TRUE(fs::exists(fuera));
+#ifndef _WIN32
     EXPECT_TRUE(fs::is_symlink(enlace));
+#endif
     EXPECT_TRUE(fs::exists(fichero));
 }
 

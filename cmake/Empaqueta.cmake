@@ -1,0 +1,18 @@
+# What an office unpacks in a folder of its machine: all in one place, as the library and the programs look for it.
+install(TARGETS analizador_compartida analiza-word creatablas
+        RUNTIME DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL
+        ARCHIVE DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
+install(FILES programas/biblioteca/analizador.h ejemplos/anfitriones/Analizador.bas ejemplos/anfitriones/analiza.vbs
+        DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
+install(DIRECTORY ${CMAKE_BINARY_DIR}/bin/CONFIG ${CMAKE_BINARY_DIR}/bin/TABLAS
+        DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
+install(FILES adaptadores/ini/OFICINA.INI DESTINATION CONFIG COMPONENT paquete EXCLUDE_FROM_ALL)
+install(DIRECTORY docs DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
+
+set(CPACK_GENERATOR ZIP)
+set(CPACK_PACKAGE_FILE_NAME analizador-${PROJECT_VERSION}-windows)
+set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR}/paquete)
+set(CPACK_INSTALL_CMAKE_PROJECTS "${CMAKE_BINARY_DIR};analizador;paquete;/")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_VERBATIM_VARIABLES ON)
+include(CPack)

@@ -1,0 +1,10 @@
+# nlohmann::json, headers alone. A foreign compiler gets the folder of this one library, never all of /usr/include.
+if(NOT CMAKE_CROSSCOMPILING)
+  find_package(nlohmann_json REQUIRED)
+  return()
+endif()
+set(carpeta_json ${CMAKE_BINARY_DIR}/json)
+file(MAKE_DIRECTORY ${carpeta_json})
+file(CREATE_LINK /usr/include/nlohmann ${carpeta_json}/nlohmann SYMBOLIC)
+add_library(nlohmann_json::nlohmann_json INTERFACE IMPORTED)
+target_include_directories(nlohmann_json::nlohmann_json INTERFACE ${carpeta_json})

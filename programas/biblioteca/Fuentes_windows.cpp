@@ -1,0 +1,38 @@
+#include "adaptadores/word/AplicacionWord.h"
+#include "plataforma/Rficheros.h"
+#include "programas/biblioteca/ErrorInterfaz.h"
+#include "programas/biblioteca/Fuentes.h"
+#include "programas/biblioteca/Modulo_windows.h"
+#include "programas/biblioteca/analizador.h"
+
+namespace analizador {
+
+namespace {
+
+[[noreturn]] void RechazaDocx(const std::filesystem::path& fichero) {
+    throw ErrorInterfaz(ANALIZADOR_NO_ANALIZADA,
+                        Utf8DeRuta(fichero) + ": esta biblioteca no lee ficheros .docx");
+}
+
+}  // namespace
+
+std::unique_ptr<TAnalisisEscritura> AnalizaDocx(const std::filesystem::path& fichero, bool) {
+    RechazaDocx(fichero);
+}
+
+void GuardaDocx(TAnalisisEscritura&, const std::filesystem::path& destino, bool) {
+    RechazaDocx(destino);
+}
+
+std::unique_ptr<TAnalisisEscritura> AnalizaWord(void* aplicacion, bool revisa) {
+    auto word = aplicacion == nullptr
+                    ? std::make_unique<TAplicacionWord>()
+                    : std::make_unique<TAplicacionWord>(*static_cast<IDispatch*>(aplicacion));
+    return std::make_unique<TAnalisisEscritura>(std::move(word), revisa);
+}
+
+std::optional<std::filesystem::path> CarpetaDeLaBiblioteca() {
+    return RutaModulo().parent_path();
+}
+
+}  // namespace analizador

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+
+namespace analizador {
+
+// The full name of the library's own file.
+[[nodiscard]] std::filesystem::path RutaModulo();
+
+// Keeps the library loaded until the process ends: its threads' memory is freed by code of its own.
+void FijaModulo();
+
+}  // namespace analizador

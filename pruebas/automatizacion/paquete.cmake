@@ -1,0 +1,11 @@
+# The package has all that it needs, in one folder. Run with -DOBRA=<build folder> -DDONDE=<folder for it>.
+file(REMOVE_RECURSE ${DONDE})
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${OBRA} --component paquete --prefix ${DONDE} OUTPUT_QUIET
+                COMMAND_ERROR_IS_FATAL ANY)
+foreach(fichero analizador.dll analizador.h libanalizador.dll.a analiza-word.exe creatablas.exe Analizador.bas analiza.vbs
+                CONFIG/CASTELLANO.INI CONFIG/CATALAN.INI CONFIG/OFICINA.INI TABLAS/MUNICIPI.DBF TABLAS/PROVIN.DBF docs/guia.md
+                docs/windows.md)
+  if(NOT EXISTS ${DONDE}/${fichero})
+    message(SEND_ERROR "${fichero} is not in the package")
+  endif()
+endforeach()
