@@ -47,9 +47,12 @@ std::string Bytes(const std::vector<std::string>& nombres) {
 class Orden : public testing::Test {
   protected:
     [[nodiscard]] fs::path Tabla() const { return carpeta_.Ruta() / "PILA.DBF"; }
-    // Writes the table and notes that it is in order.
+    // Writes the table, at a whole second (not every system sets the parts of one), and notes that it is in
+    // order.
     void Anota(const std::vector<std::string>& nombres) const {
         carpeta_.Pon("PILA.DBF", Bytes(nombres));
+        const auto segundo = std::chrono::floor<std::chrono::seconds>(fs::last_write_time(Tabla()));
+        fs::last_write_time(Tabla(), segundo);
         AnotaOrden(Tabla(), "NOMBRE");
     }
     // Changes the table and puts its time of change back.
@@ -111,7 +114,7 @@ TEST_F(Orden, LaCopiaConSuFechaConservaLaNota) {
     Anota(EnOrden());
     const TCarpetaPrueba otra;
     for (const char* fichero : {"PILA.DBF", "PILA.ORD"}) {
-        fs::copy(carpeta_.Ruta() / fichero, otra.Ruta());
+        fs::copy_file(carpeta_.Ruta() / fichero, otra.Ruta() / fichero);
         fs::last_write_time(otra.Ruta() / fichero, fs::last_write_time(carpeta_.Ruta() / fichero));
     }
     const auto copia = otra.Ruta() / "PILA.DBF";
