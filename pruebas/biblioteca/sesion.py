@@ -47,7 +47,7 @@ class Sesion(unittest.TestCase):
     def test_cargada_de_nuevo_sigue_siendo_la_misma(self):
         with analizador.Sesion(vocabularios, tablas) as una:
             otra = analizador.carga()
-            self.assertEqual(otra.analizador_interfaz(), 1)
+            self.assertEqual(otra.analizador_interfaz(), analizador.VERSION_INTERFAZ)
             with self.assertRaises(analizador.ErrorAnalizador) as fallo:
                 analizador.Sesion(tablas, tablas)
             self.assertEqual(fallo.exception.codigo, 4)
