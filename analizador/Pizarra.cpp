@@ -8,6 +8,7 @@
 #include "plataforma/Ansi.h"
 #include "plataforma/Rnumcad.h"
 #include "plataforma/Rut.h"
+#include "plataforma/Rvarias.h"
 
 namespace analizador {
 
@@ -58,10 +59,7 @@ std::string_view TextoRegimen(int regimen) {
 }
 
 std::string TextoFecha(const std::optional<TFecha>& fecha) {
-    if (!fecha) return {};
-    return StrCeros(static_cast<int>(static_cast<unsigned>(fecha->day())), 2) + "/" +
-           StrCeros(static_cast<int>(static_cast<unsigned>(fecha->month())), 2) + "/" +
-           StrCeros(static_cast<int>(fecha->year()), 4);
+    return fecha ? Fecha_Cad(*fecha) : std::string();
 }
 
 void EscribePersona(TPizarra& pizarra, const TROtorgante& otorgante) {
