@@ -7,6 +7,7 @@
 
 #include "plataforma/Ansi.h"
 #include "plataforma/Rnumcad.h"
+#include "plataforma/Utf8.h"
 
 namespace analizador {
 
@@ -174,22 +175,6 @@ std::u16string UnidadesUnoAUno(std::string_view bytes, TCodificacion codificacio
 }
 
 // ---- To UTF-8
-
-void AnadeUtf8(std::string& texto, char32_t punto) {
-    const auto anade = [&](char32_t byte) { texto += static_cast<char>(static_cast<unsigned char>(byte)); };
-    if (punto < 0x80) return anade(punto);
-    if (punto < 0x800) {
-        anade(0xC0 | punto >> 6);
-    } else if (punto < 0x10000) {
-        anade(0xE0 | punto >> 12);
-        anade(0x80 | (punto >> 6 & 0x3F));
-    } else {
-        anade(0xF0 | punto >> 18);
-        anade(0x80 | (punto >> 12 & 0x3F));
-        anade(0x80 | (punto >> 6 & 0x3F));
-    }
-    anade(0x80 | (punto & 0x3F));
-}
 
 constexpr bool EsAlto(char32_t unidad) {
     return unidad >= 0xD800 && unidad <= 0xDBFF;

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "plataforma/AnsiEquivalentes.h"
+#include "plataforma/Utf8.h"
 
 namespace analizador {
 
@@ -68,21 +69,6 @@ void AnnadePunto(std::u16string& texto, char32_t punto) {
     texto += static_cast<char16_t>(0xDC00 + ((punto - 0x10000) & 0x3FF));
 }
 
-// Only for points that the code page has: none needs more than three bytes.
-void AnnadeUtf8(std::string& texto, char16_t punto) {
-    if (punto < 0x80) {
-        texto += static_cast<char>(punto);
-        return;
-    }
-    if (punto < 0x800) {
-        texto += static_cast<char>(0xC0 | (punto >> 6));
-    } else {
-        texto += static_cast<char>(0xE0 | (punto >> 12));
-        texto += static_cast<char>(0x80 | ((punto >> 6) & 0x3F));
-    }
-    texto += static_cast<char>(0x80 | (punto & 0x3F));
-}
-
 }  // namespace
 
 std::string AnsiUpperCase(std::string_view texto) {
@@ -136,7 +122,7 @@ std::string Utf8DeAnsi(std::string_view texto) {
     for (const char c : texto) {
         const auto byte = static_cast<unsigned char>(c);
         const char16_t punto = byte >= 0x80 && byte < 0xA0 ? interno::PUNTOS_80_9F[byte - 0x80U] : byte;
-        AnnadeUtf8(utf8, punto != 0 ? punto : byte);
+        AnadeUtf8(utf8, punto != 0 ? punto : byte);
     }
     return utf8;
 }

@@ -7,6 +7,7 @@
 
 #include "adaptadores/docx/FalloDocx.h"
 #include "plataforma/Ansi.h"
+#include "plataforma/Utf8.h"
 
 namespace analizador {
 
@@ -17,22 +18,6 @@ using namespace std::string_view_literals;
 constexpr std::string_view MARCA_UTF8 = "\xEF\xBB\xBF"sv;
 constexpr std::string_view MARCA_UTF16_LE = "\xFF\xFE"sv;
 constexpr std::string_view MARCA_UTF16_BE = "\xFE\xFF"sv;
-
-void AnadeUtf8(std::string& texto, char32_t punto) {
-    const auto anade = [&](char32_t byte) { texto += static_cast<char>(static_cast<unsigned char>(byte)); };
-    if (punto < 0x80) return anade(punto);
-    if (punto < 0x800) {
-        anade(0xC0 | punto >> 6);
-    } else if (punto < 0x10000) {
-        anade(0xE0 | punto >> 12);
-        anade(0x80 | (punto >> 6 & 0x3F));
-    } else {
-        anade(0xF0 | punto >> 18);
-        anade(0x80 | (punto >> 12 & 0x3F));
-        anade(0x80 | (punto >> 6 & 0x3F));
-    }
-    anade(0x80 | (punto & 0x3F));
-}
 
 // Reads UTF-16 units from bytes in either order.
 class TLectorUtf16 {
