@@ -10,9 +10,8 @@
 
 namespace analizador {
 
-// A list of lines, each with an object that the list owns (it may be none). Positions are 0-based. Removing a
-// line or destroying the list destroys the objects. Copying is left out: two lists cannot own the same
-// objects.
+// A list of lines, each with an object that the list owns (it may be none). Positions are 0-based. Clearing
+// or destroying the list destroys the objects. Copying is left out: two lists cannot own the same objects.
 template <class T>
 class ListaTextos {
   public:
@@ -26,15 +25,6 @@ class ListaTextos {
         lineas_.push_back({std::move(texto), std::move(objeto)});
         return lineas_.back().Objeto.get();
     }
-
-    // Puts a line before position `donde` (0..Cuenta()).
-    T* Inserta(std::size_t donde, std::string texto, std::unique_ptr<T> objeto) {
-        const auto sitio = lineas_.begin() + static_cast<std::ptrdiff_t>(donde);
-        return lineas_.insert(sitio, Linea{std::move(texto), std::move(objeto)})->Objeto.get();
-    }
-
-    // Removes the line at `donde` (0..Cuenta()-1) with its object.
-    void Borra(std::size_t donde) { lineas_.erase(lineas_.begin() + static_cast<std::ptrdiff_t>(donde)); }
 
     void Limpia() { lineas_.clear(); }
 
