@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "plataforma/Ansi.h"
 #include "pruebas/generador/Reglas.h"
@@ -118,10 +119,15 @@ std::vector<std::string> GeneraEscritura(std::uint32_t semilla, std::size_t parr
     TParrafos hechos;
     for (const std::string& parrafo : Parrafos(expansion, azar, parrafos))
         hechos.push_back(AnsiDeUtf8(parrafo));
-    for (std::string& parrafo : hechos)
+    return Descuidada(std::move(hechos), semilla);
+}
+
+std::vector<std::string> Descuidada(std::vector<std::string> parrafos, std::uint32_t semilla) {
+    TAzar azar(semilla);
+    for (std::string& parrafo : parrafos)
         while (azar.UnaDe(10)) Descuida(parrafo, azar);
-    while (azar.UnaDe(3)) Desordena(hechos, azar);
-    return hechos;
+    while (parrafos.size() > 1 && azar.UnaDe(3)) Desordena(parrafos, azar);
+    return parrafos;
 }
 
 bool DescribeFinca(std::string_view parrafo) {
