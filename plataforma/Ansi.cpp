@@ -1,5 +1,6 @@
 #include "plataforma/Ansi.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "plataforma/AnsiEquivalentes.h"
@@ -105,6 +106,10 @@ std::u16string Utf16DeUtf8(std::string_view texto) {
     std::u16string unidades;
     unidades.reserve(texto.size());
     while (!texto.empty()) {
+        const auto ascii = std::find_if(texto.begin(), texto.end(), [](char c) { return (c & 0x80) != 0; });
+        unidades.append(texto.begin(), ascii);
+        texto.remove_prefix(static_cast<std::size_t>(ascii - texto.begin()));
+        if (texto.empty()) break;
         const auto punto = TomaPuntoUtf8(texto);
         AnnadePunto(unidades, punto.value_or(NO_ES_TEXTO));
         if (!punto) texto.remove_prefix(1);
