@@ -1,6 +1,7 @@
 #include "plataforma/Ansi.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include "plataforma/AnsiEquivalentes.h"
@@ -23,6 +24,13 @@ constexpr unsigned char MayusculaDe(unsigned char c) {
     if (c == 0x9A || c == 0x9C || c == 0x9E) return static_cast<unsigned char>(c - 0x10);
     return c == 0xFF ? 0x9F : c;
 }
+
+constexpr std::array<char, 256> MAYUSCULAS = [] {
+    std::array<char, 256> mayusculas{};
+    for (std::size_t i = 0; i < mayusculas.size(); ++i)
+        mayusculas[i] = static_cast<char>(MayusculaDe(static_cast<unsigned char>(i)));
+    return mayusculas;
+}();
 
 unsigned char ByteDeUnidad(char16_t unidad) {
     if (EsByteSinCaracter(unidad)) return static_cast<unsigned char>(unidad);
@@ -74,7 +82,7 @@ void AnnadePunto(std::u16string& texto, char32_t punto) {
 
 std::string AnsiUpperCase(std::string_view texto) {
     std::string mayusculas(texto);
-    for (char& c : mayusculas) c = static_cast<char>(MayusculaDe(static_cast<unsigned char>(c)));
+    for (char& c : mayusculas) c = MAYUSCULAS[static_cast<unsigned char>(c)];
     return mayusculas;
 }
 

@@ -12,7 +12,9 @@ namespace analizador {
 
 namespace {
 
-constexpr std::string_view BLANCOS = " \t\r\n";
+bool EsBlanco(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
 
 bool EsCifra(char c) {
     return c >= '0' && c <= '9';
@@ -104,11 +106,13 @@ int RightPos(std::string_view buscado, std::string_view texto) {
 }
 
 std::string_view RecortaIzquierda(std::string_view texto) {
-    return texto.substr(std::min(texto.find_first_not_of(BLANCOS), texto.size()));
+    const auto primero = std::find_if_not(texto.begin(), texto.end(), EsBlanco);
+    return texto.substr(static_cast<std::size_t>(primero - texto.begin()));
 }
 
 std::string_view RecortaDerecha(std::string_view texto) {
-    return texto.substr(0, texto.find_last_not_of(BLANCOS) + 1);
+    const auto ultimo = std::find_if_not(texto.rbegin(), texto.rend(), EsBlanco);
+    return texto.substr(0, static_cast<std::size_t>(texto.rend() - ultimo));
 }
 
 std::string_view Recorta(std::string_view texto) {

@@ -101,22 +101,29 @@ class TClavesOrdenables {
     TClavesOrdenables(const TDatosDbf& datos, const std::vector<const TCampoDbf*>& campos)
         : datos_(datos), campos_(campos) {}
 
-    // A number that compares as the keys do: the same for some that differ.
-    [[nodiscard]] std::uint64_t Prefijo(std::uint32_t fila) const {
+    // A number that compares as the keys do, the same for those that begin alike.
+    [[nodiscard]] std::uint64_t Comienzo(std::uint32_t fila) const {
         const TCampoDbf& campo = *campos_.front();
         return EsNumero(campo) ? Ordenable(datos_.Numero(fila, campo)) : Ocho(datos_.Bytes(fila, campo));
     }
 
     [[nodiscard]] bool Antes(std::uint32_t a, std::uint32_t b) const {
+        const int enBytes = ComparaBytes(a, b);
+        if (enBytes == 0) return a < b;
         for (const TCampoDbf* campo : campos_)
             if (const int orden = ComparaClaves(a, b, *campo); orden != 0) return orden < 0;
-        for (const TCampoDbf* campo : campos_)
-            if (const int orden = datos_.Bytes(a, *campo).compare(datos_.Bytes(b, *campo)); orden != 0)
-                return orden < 0;
-        return a < b;
+        return enBytes < 0;
     }
 
   private:
+    // As they stand in the file.
+    [[nodiscard]] int ComparaBytes(std::uint32_t a, std::uint32_t b) const {
+        for (const TCampoDbf* campo : campos_)
+            if (const int orden = datos_.Bytes(a, *campo).compare(datos_.Bytes(b, *campo)); orden != 0)
+                return orden;
+        return 0;
+    }
+
     [[nodiscard]] int ComparaClaves(std::uint32_t a, std::uint32_t b, const TCampoDbf& campo) const {
         if (!EsNumero(campo)) return ComparaTextos(datos_.Bytes(a, campo), datos_.Bytes(b, campo));
         const std::uint64_t x = Ordenable(datos_.Numero(a, campo));
@@ -183,19 +190,24 @@ TIndiceDbf::TIndiceDbf(const TDatosDbf& datos, const std::vector<std::string>& c
     for (const std::string& campo : campos) campos_.push_back(&datos.Campo(campo));
     const TClavesOrdenables claves(datos, campos_);
     std::iota(orden_.begin(), orden_.end(), 0U);
-    const auto antes = [&](std::uint32_t a, std::uint32_t b) { return claves.Antes(a, b); };
+    std::vector<std::uint64_t> comienzos(orden_.size());
+    std::transform(orden_.begin(), orden_.end(), comienzos.begin(),
+                   [&](std::uint32_t fila) { return claves.Comienzo(fila); });
+    const auto antes = [&](std::uint32_t a, std::uint32_t b) {
+        return comienzos[a] != comienzos[b] ? comienzos[a] < comienzos[b] : claves.Antes(a, b);
+    };
     if (std::is_sorted(orden_.begin(), orden_.end(), antes)) return;
 
     std::vector<std::pair<std::uint64_t, std::uint32_t>> filas;
     filas.reserve(orden_.size());
-    for (const std::uint32_t fila : orden_) filas.emplace_back(claves.Prefijo(fila), fila);
+    for (const std::uint32_t fila : orden_) filas.emplace_back(comienzos[fila], fila);
     std::sort(filas.begin(), filas.end());
     std::transform(filas.begin(), filas.end(), orden_.begin(), [](const auto& fila) { return fila.second; });
     for (std::size_t desde = 0, hasta = 0; desde < filas.size(); desde = hasta) {
         while (hasta < filas.size() && filas[hasta].first == filas[desde].first) ++hasta;
-        const auto iguales = orden_.begin() + static_cast<std::ptrdiff_t>(desde);
-        const auto fin = orden_.begin() + static_cast<std::ptrdiff_t>(hasta);
-        if (!std::is_sorted(iguales, fin, antes)) std::sort(iguales, fin, antes);
+        const auto primera = orden_.begin() + static_cast<std::ptrdiff_t>(desde);
+        const auto ultima = orden_.begin() + static_cast<std::ptrdiff_t>(hasta);
+        if (!std::is_sorted(primera, ultima, antes)) std::sort(primera, ultima, antes);
     }
 }
 

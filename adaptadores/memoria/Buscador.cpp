@@ -1,6 +1,7 @@
 #include "adaptadores/memoria/Buscador.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -21,7 +22,7 @@ bool EsGuionOpcional(char c) {
     return c == '\x1F' || c == '\xAD';
 }
 
-char SinVariantes(char c) {
+constexpr char SinVariantes(char c) {
     switch (c) {
         case '\x91':
         case '\x92':
@@ -36,11 +37,16 @@ char SinVariantes(char c) {
     }
 }
 
+constexpr std::array<char, 256> COMPARABLES = [] {
+    std::array<char, 256> comparables{};
+    for (std::size_t i = 0; i < comparables.size(); ++i) comparables[i] = SinVariantes(static_cast<char>(i));
+    return comparables;
+}();
+
 std::string Comparable(std::string_view texto) {
-    std::string salida;
-    salida.reserve(texto.size());
-    for (const char c : texto)
-        if (!EsGuionOpcional(c)) salida.push_back(SinVariantes(c));
+    std::string salida(texto);
+    for (char& c : salida) c = COMPARABLES[static_cast<unsigned char>(c)];
+    std::erase_if(salida, EsGuionOpcional);
     return salida;
 }
 
