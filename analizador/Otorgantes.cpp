@@ -25,12 +25,13 @@ void TClassAnalizadorAbierto::DesglosaParrafoRepresentacion(std::string_view tex
     TClassParrafoRepresentacion parrafo(texto, numero);
     parrafo.Desglosa();
     // The one who acts for another was named before, as a rule: looked up before the paragraph adds anybody.
-    TROtorgante* const representante = Otorgante(parrafo.Representante.Valor, OtorgantesEncontrados.Lista);
+    const auto representante = OtorgantesEncontrados.LineaNombradaEn(parrafo.Representante.Valor);
     parrafo.RellenaListaOtorgantes(OtorgantesEncontrados);
-    if (representante == nullptr) return;
-    representante->IntervencionVRK = EN_REPRESENTACION_DE;
-    representante->IntervencionINTI = INTI_REPRESENTANTE;
-    TOrigenes& origenes = OtorgantesEncontrados.OrigenesDe(*representante);
+    if (!representante) return;
+    TROtorgante& otorgante = *OtorgantesEncontrados.Lista[*representante].Objeto;
+    otorgante.IntervencionVRK = EN_REPRESENTACION_DE;
+    otorgante.IntervencionINTI = INTI_REPRESENTANTE;
+    TOrigenes& origenes = OtorgantesEncontrados.Origenes[*representante];
     origenes["IntervencionINTI"] = origenes["IntervencionVRK"] = {numero, parrafo.Representante.Donde};
 }
 
