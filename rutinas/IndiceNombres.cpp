@@ -33,6 +33,7 @@ void TIndiceNombres::Pon(std::string_view nombre, std::size_t linea) {
         largos_[std::string(nombre)].insert(linea);
         return;
     }
+    iniciales_.set(static_cast<unsigned char>(nombre.front()));
     TNodo nodo = RAIZ;
     for (const char letra : nombre) {
         const auto [hijo, nuevo] = hijos_.try_emplace(Clave(nodo, letra), nodos_);
@@ -67,6 +68,7 @@ std::optional<std::size_t> TIndiceNombres::PrimeraEn(std::string_view texto) con
 void TIndiceNombres::Recorre(std::string_view texto,
                              const std::function<void(std::size_t, Tramo)>& visita) const {
     for (std::size_t inicio = 0; inicio < texto.size(); ++inicio) {
+        if (!iniciales_[static_cast<unsigned char>(texto[inicio])]) continue;
         TNodo nodo = RAIZ;
         for (std::size_t fin = inicio; fin < texto.size(); ++fin) {
             nodo = Hijo(nodo, texto[fin]);

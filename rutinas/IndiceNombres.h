@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -45,6 +46,7 @@ class TIndiceNombres {
     std::unordered_map<std::uint64_t, TNodo> hijos_;
     std::unordered_map<TNodo, TLineas> lineas_;
     TNodo nodos_ = 1;
+    std::bitset<256> iniciales_;  // the letters that lead away from the root
     // Names too long for the tree: no name of a real party.
     std::map<std::string, TLineas, std::less<>> largos_;
 };
