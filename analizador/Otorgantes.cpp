@@ -75,7 +75,7 @@ void TClassAnalizadorAbierto::AnalizaTestamento() {
 void TClassAnalizadorAbierto::DesglosaIntervaloTestamento(std::string_view texto, TROtorgante& otorgante) {
     TClassIntervaloTestamento intervalo(texto, otorgante);
     intervalo.Desglosa();
-    const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo);
+    const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo, texto);
     TOrigenes& origenes = OtorgantesEncontrados.OrigenesDe(otorgante);
     origenes.erase("IntervencionINTI");
     for (const auto& [campo, tramo] : intervalo.Tramos) {
@@ -93,7 +93,7 @@ void TClassAnalizadorAbierto::AnalizaPrestamo() {
 void TClassAnalizadorAbierto::DesglosaIntervaloPrestamo(std::string_view texto, TClassOperacion& operacion) {
     TClassIntervaloPrestamo intervalo(texto, operacion);
     intervalo.Desglosa();
-    const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo);
+    const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo, texto);
     for (const Tramo& tramo : intervalo.TramosPlazos)
         OrigenOperacion.Plazos.push_back(posiciones.Origen(tramo));
     for (const Tramo& tramo : intervalo.TramosTAEs) OrigenOperacion.TAEs.push_back(posiciones.Origen(tramo));
