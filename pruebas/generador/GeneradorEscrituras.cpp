@@ -130,6 +130,18 @@ std::vector<std::string> Descuidada(std::vector<std::string> parrafos, std::uint
     return parrafos;
 }
 
+std::vector<std::string> Salpicada(std::vector<std::string> parrafos, std::uint32_t semilla,
+                                   const std::vector<std::string>& palabras) {
+    TAzar azar(semilla);
+    for (std::string& parrafo : parrafos)
+        while (!palabras.empty() && !azar.UnaDe(3)) {
+            std::size_t donde = azar.Entre(0, static_cast<std::uint32_t>(parrafo.size()));
+            if (!azar.UnaDe(4)) donde = std::min(parrafo.find(' ', donde), parrafo.size());
+            parrafo.insert(donde, (azar.UnaDe(4) ? "" : " ") + azar.Elige(palabras));
+        }
+    return parrafos;
+}
+
 bool DescribeFinca(std::string_view parrafo) {
     return parrafo.starts_with("URBANA") || parrafo.starts_with("RÚSTICA"_ansi);
 }

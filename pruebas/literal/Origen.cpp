@@ -211,8 +211,8 @@ TPaises BuscaNacionalidades(TTabla& paises, const std::string& plegado) {
             if (posicion == 0) continue;
             auto sitio = hallados.begin();
             while (sitio != hallados.end() && sitio->Valor.Posicion < posicion) ++sitio;
-            hallados.insert(sitio,
-                            {{paises.Texto("PROVINCIA"), paises.Entero("CODIGO"), palabra, posicion}, {}});
+            const TRPais pais{paises.Texto("PROVINCIA"), paises.Entero("CODIGO"), palabra, posicion};
+            hallados.insert(sitio, THallazgo<TRPais>{pais, {}});
             break;
         }
     return hallados;

@@ -6,6 +6,7 @@
 #include <ctime>
 #include <exception>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <iostream>
 #include <string>
@@ -13,6 +14,7 @@
 
 #include "adaptadores/docx/FicheroDocx.h"
 #include "analizador/ConstAnalizador.h"
+#include "plataforma/Rnumcad.h"
 #include "programas/analiza/AnalisisEscritura.h"
 #include "programas/analiza/SalidaJson.h"
 #include "programas/analiza/SalidaTexto.h"
@@ -29,6 +31,7 @@ struct TPedido {
     std::uint32_t Variantes = 0;
     std::uint32_t Semilla = 1;
     std::uint32_t Generadas = 0;
+    std::uint32_t Salpicadas = 0;
     std::size_t Parrafos = 0;
     double Mide = 0;
 };
@@ -46,6 +49,18 @@ std::vector<std::string> Parrafos(const std::string& texto) {
     return parrafos;
 }
 
+// Every value of the two vocabularies.
+std::vector<std::string> Vocabulario(const std::filesystem::path& config) {
+    std::vector<std::string> palabras;
+    for (const char* fichero : {"CASTELLANO.INI", "CATALAN.INI"}) {
+        std::ifstream entrada(config / fichero, std::ios::binary);
+        for (std::string linea; std::getline(entrada, linea);)
+            if (const auto igual = linea.find('='); igual != std::string::npos && linea.front() != ';')
+                palabras.push_back(QuitaCaracteres(linea.substr(igual + 1), "\r\""));
+    }
+    return palabras;
+}
+
 void Recorre(const TPedido& pedido, const TToma& toma) {
     for (const auto& fichero : pedido.Ficheros) {
         const TContenidoDocumento contenido = TFicheroDocx(fichero).Contenido();
@@ -57,6 +72,12 @@ void Recorre(const TPedido& pedido, const TToma& toma) {
     for (std::uint32_t i = 0; i < pedido.Generadas; ++i)
         toma("semilla " + std::to_string(pedido.Semilla + i),
              pruebas::ContenidoDe(pruebas::GeneraEscritura(pedido.Semilla + i, pedido.Parrafos)));
+    const auto palabras = Vocabulario(pedido.Carpeta / "CONFIG");
+    for (std::uint32_t i = 0; i < pedido.Salpicadas; ++i)
+        toma("salpicada " + std::to_string(pedido.Semilla + i),
+             pruebas::ContenidoDe(
+                 pruebas::Salpicada(pruebas::GeneraEscritura(pedido.Semilla + i, pedido.Parrafos),
+                                    pedido.Semilla + i, palabras)));
 }
 
 void Escribe(const std::string& nombre, const TContenidoDocumento& contenido) {
@@ -98,6 +119,8 @@ int main(int argc, char** argv) {
     orden.add_option("--variantes", pedido.Variantes, "of each document, as many copies with slips");
     orden.add_option("--semilla", pedido.Semilla, "the first seed, of copies and generated deeds");
     orden.add_option("--generadas", pedido.Generadas, "as many generated deeds");
+    orden.add_option("--salpicadas", pedido.Salpicadas,
+                     "as many generated deeds with words of the vocabularies strewn over them");
     orden.add_option("--parrafos", pedido.Parrafos, "paragraphs that each generated one has at least");
     orden.add_option("--mide", pedido.Mide,
                      "write instead the milliseconds of processor time that an analysis "
