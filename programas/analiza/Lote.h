@@ -14,8 +14,8 @@ namespace analizador {
 // What came of a deed. All texts are UTF-8.
 struct TResultado {
     TCodigoSalida Codigo = TODO_BIEN;
-    std::string Salida;       // for the standard output or the file of results, with its line ends
-    std::string Aviso;        // one line for the standard error; empty: nothing to say
+    std::string Salida{};     // for the standard output or the file of results, with its line ends
+    std::string Aviso{};      // one line for the standard error; empty: nothing to say
     bool Conservado = false;  // not analysed: the result of an earlier run stands
 };
 

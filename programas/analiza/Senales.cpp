@@ -26,12 +26,14 @@ TPeticionDeFin::TPeticionDeFin() {
     struct sigaction ninguna {};
     ninguna.sa_handler = SIG_IGN;
     sigaction(SIGPIPE, &ninguna, &FTuberia);
+    sigaction(SIGXFSZ, &ninguna, &FTamano);
 }
 
 TPeticionDeFin::~TPeticionDeFin() {
     sigaction(SIGINT, &FInterrupcion, nullptr);
     sigaction(SIGTERM, &FTerminacion, nullptr);
     sigaction(SIGPIPE, &FTuberia, nullptr);
+    sigaction(SIGXFSZ, &FTamano, nullptr);
 }
 
 int TPeticionDeFin::Senal() {

@@ -7,8 +7,8 @@
 namespace analizador {
 
 // While it lives, the first request only sets a mark and interrupts a reading that waits; the second one ends
-// the program as if nothing had been said. A reader of the output that goes away is an error of writing, not
-// the end of the program. One at a time.
+// the program as if nothing had been said. A reader of the output that goes away and a file that grows too
+// large are errors of writing, not the end of the program. One at a time.
 class TPeticionDeFin {
   public:
     TPeticionDeFin();
@@ -23,6 +23,7 @@ class TPeticionDeFin {
     struct sigaction FInterrupcion {};
     struct sigaction FTerminacion {};
     struct sigaction FTuberia {};
+    struct sigaction FTamano {};
 };
 
 // The threads that are started while it lives get none of those requests.

@@ -1,5 +1,7 @@
 // Many at once, delivered in order: with work that the test itself holds back and lets go.
 
+#include "programas/analiza/Lote.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,8 +11,6 @@
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-#include "programas/analiza/Lote.h"
 
 namespace analizador {
 namespace {
@@ -45,20 +45,21 @@ TEST(Lote, EntregaTodoEnSuOrdenConCualquierNumeroDeHilos) {
         for (const int cuantas : {0, 1, 2, 500}) {
             SCOPED_TRACE(std::to_string(hilos) + " threads, " + std::to_string(cuantas) + " deeds");
             std::vector<int> entregadas;
-            EjecutaLote({.Siguiente = TNumeros(cuantas),
-                         .Analiza = [](const TRuta& ruta) { return TResultado{.Salida = "s" + ruta.string()}; },
-                         .Entrega =
-                             [&](const TRuta& ruta, const TResultado& resultado) {
-                                 EXPECT_EQ(resultado.Salida, "s" + ruta.string());
-                                 entregadas.push_back(Numero(ruta));
-                             }},
-                        hilos);
+            EjecutaLote(
+                {.Siguiente = TNumeros(cuantas),
+                 .Analiza = [](const TRuta& ruta) { return TResultado{.Salida = "s" + ruta.string()}; },
+                 .Entrega =
+                     [&](const TRuta& ruta, const TResultado& resultado) {
+                         EXPECT_EQ(resultado.Salida, "s" + ruta.string());
+                         entregadas.push_back(Numero(ruta));
+                     }},
+                hilos);
             EXPECT_EQ(entregadas, Hasta(cuantas));
         }
 }
 
-// The first deed waits until the others can go no further: its results must not be overtaken, and no more than the
-// window may be taken meanwhile.
+// The first deed waits until the others can go no further: its results must not be overtaken, and no more
+// than the window may be taken meanwhile.
 TEST(Lote, UnaLentaNiSeAdelantaNiLlenaLaMemoria) {
     constexpr unsigned HILOS = 3;
     constexpr int CABIDA = 4 * HILOS;
@@ -69,30 +70,32 @@ TEST(Lote, UnaLentaNiSeAdelantaNiLlenaLaMemoria) {
     int tomadas = 0;
     int masTomadas = 0;
     TNumeros numeros(100);
-    EjecutaLote(
-        {.Siguiente =
-             [&] {
-                 const std::lock_guard turno(cerrojo);
-                 masTomadas = std::max(masTomadas, ++tomadas - static_cast<int>(entregadas.size()));
-                 return numeros();
-             },
-         .Analiza =
-             [&](const TRuta& ruta) {
-                 std::unique_lock turno(cerrojo);
-                 if (Numero(ruta) == 0) cambia.wait(turno, [&] { return acabadas >= CABIDA - 1; });
-                 ++acabadas;
-                 cambia.notify_all();
-                 return TResultado{};
-             },
-         .Entrega =
-             [&](const TRuta& ruta, const TResultado&) {
-                 const std::lock_guard turno(cerrojo);
-                 if (Numero(ruta) == 0) EXPECT_GE(acabadas, CABIDA);
-                 entregadas.push_back(Numero(ruta));
-             }},
-        HILOS);
+    EjecutaLote({.Siguiente =
+                     [&] {
+                         const std::lock_guard turno(cerrojo);
+                         masTomadas = std::max(masTomadas, ++tomadas - static_cast<int>(entregadas.size()));
+                         return numeros();
+                     },
+                 .Analiza =
+                     [&](const TRuta& ruta) {
+                         std::unique_lock turno(cerrojo);
+                         if (Numero(ruta) == 0) cambia.wait(turno, [&] { return acabadas >= CABIDA - 1; });
+                         ++acabadas;
+                         cambia.notify_all();
+                         return TResultado{};
+                     },
+                 .Entrega =
+                     [&](const TRuta& ruta, const TResultado&) {
+                         const std::lock_guard turno(cerrojo);
+                         if (Numero(ruta) == 0) {
+                             EXPECT_GE(acabadas, CABIDA);
+                         }
+                         entregadas.push_back(Numero(ruta));
+                     }},
+                HILOS);
     EXPECT_EQ(entregadas, Hasta(100));
-    EXPECT_LE(masTomadas, CABIDA + 2) << "one more is in the hand that waits for room, another being delivered";
+    EXPECT_LE(masTomadas, CABIDA + 2)
+        << "one more is in the hand that waits for room, another being delivered";
 }
 
 TEST(Lote, LosHilosTrabajanALaVez) {

@@ -1,8 +1,8 @@
 // What the terminal shows of a batch.
 
-#include <gtest/gtest.h>
-
 #include "programas/analiza/Progreso.h"
+
+#include <gtest/gtest.h>
 
 namespace analizador {
 namespace {
@@ -22,7 +22,8 @@ TEST(Progreso, DiceCuantasVanYCuantoFalta) {
          "[#######################.] 1999 de 2000 escrituras, 3 con fallo, faltan 0:01"},
         {{.Hechas = 1, .Cuantas = 3601, .Tiempo = 1s},
          "[........................] 1 de 3601 escrituras, faltan 1:00:00"},
-        {{.Hechas = 2000, .Cuantas = 2000, .Tiempo = 10s}, "[########################] 2000 de 2000 escrituras"},
+        {{.Hechas = 2000, .Cuantas = 2000, .Tiempo = 10s},
+         "[########################] 2000 de 2000 escrituras"},
         // What an earlier run did says nothing of the pace.
         {{.Hechas = 900, .Conservadas = 900, .Cuantas = 1000, .Tiempo = 1s},
          "[#####################...] 900 de 1000 escrituras"},
@@ -49,7 +50,8 @@ TEST(Progreso, NuncaPasaDeLaLinea) {
 TEST(Progreso, AlFinalDiceQueSeHizo) {
     EXPECT_EQ(TextoFinal({.Hechas = 2000, .Tiempo = 65s}), "2000 escrituras, en 1:05");
     EXPECT_EQ(TextoFinal({.Hechas = 1, .Fallidas = 1, .Tiempo = 100ms}), "1 escritura, 1 con fallo, en 0:00");
-    EXPECT_EQ(TextoFinal({.Hechas = 20, .Conservadas = 15, .Tiempo = 2s}), "20 escrituras, 15 ya hechas, en 0:02");
+    EXPECT_EQ(TextoFinal({.Hechas = 20, .Conservadas = 15, .Tiempo = 2s}),
+              "20 escrituras, 15 ya hechas, en 0:02");
 }
 
 }  // namespace

@@ -26,7 +26,8 @@ using testing::EndsWith;
 using testing::StartsWith;
 using TTextos = std::vector<std::string>;
 
-constexpr std::array<const char*, 4> EJEMPLOS = {"compraventa", "testament", "prestamo_hipotecario", "compravenda"};
+constexpr std::array<const char*, 4> EJEMPLOS = {"compraventa", "testament", "prestamo_hipotecario",
+                                                 "compravenda"};
 
 // A folder of deeds, and beside it the file of results of their batch.
 class ContinuaAnaliza : public testing::Test {
@@ -36,7 +37,8 @@ class ContinuaAnaliza : public testing::Test {
     }
     void Copia(int cuantas) const {
         for (int i = 0; i < cuantas; ++i)
-            Copia(EJEMPLOS[static_cast<std::size_t>(i) % EJEMPLOS.size()], "e" + std::to_string(1000 + i) + ".docx");
+            Copia(EJEMPLOS[static_cast<std::size_t>(i) % EJEMPLOS.size()],
+                  "e" + std::to_string(1000 + i) + ".docx");
     }
     [[nodiscard]] TTextos Orden(TTextos opciones = {}) const {
         opciones.insert(opciones.end(), {"--json", "--resultados", FResultados, FEscrituras});
@@ -72,7 +74,8 @@ class ContinuaAnaliza : public testing::Test {
     [[nodiscard]] TTextos Archivos() const {
         TTextos nombres;
         for (const auto& linea : Lineas(Bytes(FResultados)))
-            nombres.push_back(fs::path(nlohmann::json::parse(linea)["archivo"].get<std::string>()).filename());
+            nombres.push_back(
+                fs::path(nlohmann::json::parse(linea)["archivo"].get<std::string>()).filename());
         return nombres;
     }
 
@@ -183,19 +186,21 @@ TEST_F(ContinuaAnaliza, SoloAnalizaLoQueFaltaYLoQueHaCambiado) {
     ASSERT_EQ(Lote().Codigo, 0);
     EXPECT_EQ(Continua({"--origen"}).Codigo, 0);
     EXPECT_THAT(ConOrigen(), testing::IsEmpty());
-    Copia("testamento", "e1003.docx");  // changed
-    Copia("testament", "e1004b.docx");  // new, in the middle
+    Copia("testamento", "e1003.docx");                                               // changed
+    Copia("testament", "e1004b.docx");                                               // new, in the middle
     fs::last_write_time(Escritura("e1001.docx"), fs::file_time_type::clock::now());  // the same content
     EXPECT_EQ(Continua({"--origen"}).Codigo, 0);
     EXPECT_THAT(ConOrigen(), testing::ElementsAre("e1003.docx", "e1004b.docx"));
-    EXPECT_THAT(Archivos(), testing::ElementsAre("e1000.docx", "e1001.docx", "e1002.docx", "e1003.docx", "e1004.docx",
-                                                 "e1004b.docx", "e1005.docx", "e1006.docx", "e1007.docx"));
+    EXPECT_THAT(Archivos(),
+                testing::ElementsAre("e1000.docx", "e1001.docx", "e1002.docx", "e1003.docx", "e1004.docx",
+                                     "e1004b.docx", "e1005.docx", "e1006.docx", "e1007.docx"));
     fs::remove(FCarpeta.Ruta() / "resultados.jsonl");
     EXPECT_EQ(Lote().Codigo, 0);
     EsperaLimpio();
 }
 
-// What the last run did comes at the end of the file until all is done: killed before, nothing is lost either.
+// What the last run did comes at the end of the file until all is done: killed before, nothing is lost
+// either.
 TEST_F(ContinuaAnaliza, LoCambiadoEntraEnSuSitioAunqueSeMateEntretanto) {
     Copia(60);
     static_cast<void>(Esperado());
@@ -235,8 +240,9 @@ TEST_F(ContinuaAnaliza, LosResultadosDeOtrasSeConservanAlFinal) {
     fs::rename(FEscrituras / "e1001.docx", FEscrituras / "e2001.docx");
     const auto ejecucion = Continua();
     EXPECT_EQ(ejecucion.Codigo, 0);
-    EXPECT_EQ(ejecucion.Errores, "analiza: " + FResultados.string() +
-                                     ": conserva al final 1 resultados de escrituras que ahora no se han pedido\n");
+    EXPECT_EQ(ejecucion.Errores,
+              "analiza: " + FResultados.string() +
+                  ": conserva al final 1 resultados de escrituras que ahora no se han pedido\n");
     EXPECT_THAT(Archivos(), testing::ElementsAre("e1000.docx", "e1002.docx", "e2001.docx", "e1001.docx"));
 }
 
@@ -270,9 +276,10 @@ TEST_F(ContinuaAnaliza, NuncaPisaUnFicheroQueYaEsta) {
         EXPECT_EQ(Lineas(ejecucion.Errores).size(), 1U);
         EXPECT_EQ(Bytes(FResultados), caso.Contenido);
     }
-    for (const auto& [ruta, causa] : {std::pair{fs::path("/dev/null"), "no es un fichero corriente"},
-                                      std::pair{FEscrituras, "no se puede escribir: "},
-                                      std::pair{FEscrituras / "no" / "hay", "no se puede escribir: la carpeta no existe"}}) {
+    for (const auto& [ruta, causa] :
+         {std::pair{fs::path("/dev/null"), "no es un fichero corriente"},
+          std::pair{FEscrituras, "no se puede escribir: "},
+          std::pair{FEscrituras / "no" / "hay", "no se puede escribir: la carpeta no existe"}}) {
         const auto ejecucion = Analiza({"--json", "--resultados", ruta, FEscrituras});
         EXPECT_EQ(ejecucion.Codigo, 2);
         EXPECT_THAT(ejecucion.Errores, StartsWith("analiza: " + ruta.string() + ": " + causa));
@@ -286,7 +293,8 @@ TEST_F(ContinuaAnaliza, DosProcesosNoEscribenALaVez) {
     ASSERT_EQ(::flock(descriptor, LOCK_EX), 0);
     const auto ejecucion = Continua();
     EXPECT_EQ(ejecucion.Codigo, 2);
-    EXPECT_EQ(ejecucion.Errores, "analiza: " + FResultados.string() + ": otro proceso está escribiendo en él\n");
+    EXPECT_EQ(ejecucion.Errores,
+              "analiza: " + FResultados.string() + ": otro proceso está escribiendo en él\n");
     ::close(descriptor);
     EXPECT_EQ(Continua().Codigo, 0);
 }
@@ -298,8 +306,9 @@ TEST_F(ContinuaAnaliza, ConElDiscoLlenoQuedanLineasEnteras) {
     for (const auto& argumento : Orden()) orden += " '" + argumento + "'";
     const auto ejecucion = Ejecuta("/bin/bash", {"-c", orden});
     EXPECT_EQ(ejecucion.Codigo, 1);
-    EXPECT_EQ(ejecucion.Errores, "analiza: " + FResultados.string() +
-                                     ": no se puede escribir: el fichero pasa del tamaño que el sistema permite\n");
+    EXPECT_EQ(ejecucion.Errores,
+              "analiza: " + FResultados.string() +
+                  ": no se puede escribir: el fichero pasa del tamaño que el sistema permite\n");
     const auto bytes = Bytes(FResultados);
     EXPECT_THAT(esperado, StartsWith(bytes));
     EXPECT_THAT(bytes, EndsWith("\n"));

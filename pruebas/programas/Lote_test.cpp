@@ -1,5 +1,6 @@
 // Many deeds in one call: side by side, each result in its place.
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -29,7 +30,8 @@ constexpr std::array<const char*, 6> EJEMPLOS = {"compraventa", "testament",   "
 TTextos Escrituras(const TCarpetaTemporal& carpeta, std::size_t cuantas) {
     TTextos nombres;
     for (std::size_t i = 0; i < cuantas; ++i)
-        nombres.push_back(carpeta.Copia(EJEMPLOS[i % EJEMPLOS.size()], "e" + std::to_string(1000 + i) + ".docx"));
+        nombres.push_back(
+            carpeta.Copia(EJEMPLOS[i % EJEMPLOS.size()], "e" + std::to_string(1000 + i) + ".docx"));
     return nombres;
 }
 
@@ -125,7 +127,8 @@ TEST(LoteAnaliza, LasRotasNoParanALasDemas) {
 
 TEST(LoteAnaliza, UnaCarpetaValePorSusEscriturasPorOrdenDeNombre) {
     const TCarpetaTemporal carpeta;
-    for (const char* nombre : {"b.docx", "a 2.DOCX", "Z.docm", "ñ.dotx", "a.dotm", "~$b.docx", ".oculta.docx"})
+    for (const char* nombre :
+         {"b.docx", "a 2.DOCX", "Z.docm", "ñ.dotx", "a.dotm", "~$b.docx", ".oculta.docx"})
         static_cast<void>(carpeta.Copia("testament", nombre));
     static_cast<void>(carpeta.Fichero("notas.txt", "x"));
     static_cast<void>(carpeta.Fichero(".~lock.b.docx#", "x"));
@@ -161,7 +164,8 @@ TEST(LoteAnaliza, UnaCarpetaSinEscriturasEsUnFallo) {
 TEST(LoteAnaliza, LosNombresPuedenLlegarPorLaEntrada) {
     const TCarpetaTemporal carpeta;
     TTextos nombres;
-    for (const char* nombre : {"Escritura nº 7 de la señora Núñez.docx", "l'hipoteca \"a\" $(x).docx", "-guion.docx"})
+    for (const char* nombre :
+         {"Escritura nº 7 de la señora Núñez.docx", "l'hipoteca \"a\" $(x).docx", "-guion.docx"})
         nombres.push_back(carpeta.Copia("testament", nombre));
     const std::string partida = carpeta.Copia("testament", "dos\nlineas.docx");
     struct TCaso {
@@ -182,11 +186,13 @@ TEST(LoteAnaliza, LosNombresPuedenLlegarPorLaEntrada) {
     const TCarpetaTemporal aparte;
     for (const auto& caso : casos) {
         SCOPED_TRACE(testing::PrintToString(caso.Lista));
-        const auto ejecucion = Analiza(Con({"--json"}, caso.Argumentos), {}, aparte.Fichero("lista", caso.Lista));
+        const auto ejecucion =
+            Analiza(Con({"--json"}, caso.Argumentos), {}, aparte.Fichero("lista", caso.Lista));
         EXPECT_EQ(ejecucion.Codigo, 0) << ejecucion.Errores;
         EXPECT_EQ(Archivos(ejecucion.Salida), caso.Esperados);
     }
-    const auto carpetas = Analiza({"--json", "-"}, {}, aparte.Fichero("lista", carpeta.Ruta().string() + "\n"));
+    const auto carpetas =
+        Analiza({"--json", "-"}, {}, aparte.Fichero("lista", carpeta.Ruta().string() + "\n"));
     EXPECT_EQ(Archivos(carpetas.Salida), Archivos(Analiza({"--json", carpeta.Ruta()}).Salida));
     const auto falta = Analiza({"--json", "-"}, {}, aparte.Fichero("lista", "no hay.docx\n" + suelta + "\n"));
     EXPECT_EQ(falta.Codigo, 1);
@@ -232,9 +238,9 @@ TEST(LoteAnaliza, SiNadieLeeLaSalidaAcaba) {
     const TCarpetaTemporal carpeta;
     const auto ficheros = Escrituras(carpeta, 60);
     const auto codigo = carpeta.Ruta() / "codigo";
-    const auto ejecucion = Ejecuta("/bin/sh", {"-c",
-                                               "{ '" PROGRAMA_ANALIZA "' --json '" + carpeta.Ruta().string() +
-                                                   "'; echo $? >'" + codigo.string() + "'; } | head -n 1"});
+    const auto ejecucion =
+        Ejecuta("/bin/sh", {"-c", "{ '" PROGRAMA_ANALIZA "' --json '" + carpeta.Ruta().string() +
+                                      "'; echo $? >'" + codigo.string() + "'; } | head -n 1"});
     EXPECT_THAT(Archivos(ejecucion.Salida), ElementsAre(ficheros.front()));
     EXPECT_EQ(Bytes(codigo), "1\n");
     EXPECT_EQ(ejecucion.Errores, "analiza: no se puede escribir la salida\n");
@@ -248,10 +254,11 @@ long Memoria(const TCarpetaTemporal& carpeta, int cuantas) {
         if (!fs::exists(enlace)) fs::create_hard_link(carpeta.Ruta() / "e1000.docx", enlace);
         lista += enlace.string() + "\n";
     }
-    const TTuberia entrada;
     const auto fichero = carpeta.Fichero("lista" + std::to_string(cuantas), lista);
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> abierto(std::fopen(fichero.c_str(), "r"), std::fclose);
-    TProceso proceso({"--json", "--hilos", "2", "-"}, "/dev/null", carpeta.Ruta() / "errores", fileno(abierto.get()));
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> abierto(std::fopen(fichero.c_str(), "r"),
+                                                                  std::fclose);
+    TProceso proceso({"--json", "--hilos", "2", "-"}, "/dev/null", carpeta.Ruta() / "errores",
+                     fileno(abierto.get()));
     EXPECT_EQ(proceso.Espera(), 0) << Bytes(carpeta.Ruta() / "errores");
     return proceso.Memoria();
 }
@@ -266,7 +273,8 @@ TEST(LoteAnaliza, LaMemoriaNoCreceConElNumeroDeEscrituras) {
     const long muchas = Memoria(carpeta, 2000);
     RecordProperty("KiB_200", static_cast<int>(pocas));
     RecordProperty("KiB_2000", static_cast<int>(muchas));
-    EXPECT_LT(static_cast<double>(muchas), 1.1 * static_cast<double>(pocas)) << pocas << " KiB with a tenth of them";
+    EXPECT_LT(static_cast<double>(muchas), 1.1 * static_cast<double>(pocas))
+        << pocas << " KiB with a tenth of them";
 }
 
 // The worked example of the guide.

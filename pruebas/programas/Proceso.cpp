@@ -13,7 +13,8 @@ namespace analizador {
 
 namespace {
 
-[[noreturn]] void Convierte(std::vector<char*>& argumentos, const char* salida, const char* errores, int entrada) {
+[[noreturn]] void Convierte(std::vector<char*>& argumentos, const char* salida, const char* errores,
+                            int entrada) {
     constexpr int MODO = 0600;
     const int deDonde = entrada >= 0 ? entrada : ::open("/dev/null", O_RDONLY);
     if (::dup2(deDonde, STDIN_FILENO) >= 0 &&
