@@ -7,10 +7,10 @@
 #include <cstdio>
 #include <random>
 #include <string>
-#include <system_error>
 
 #include "adaptadores/docx/FalloDocx.h"
 #include "adaptadores/docx/FicheroProvisional.h"
+#include "adaptadores/docx/SustitucionSegura.h"
 
 namespace analizador {
 
@@ -37,28 +37,6 @@ bool EsNombreProvisional(std::string_view nombre) {
     const auto azar = nombre.substr(PRINCIPIO.size(), LETRAS_AL_AZAR);
     return nombre.starts_with(PRINCIPIO) && nombre.ends_with(FINAL) &&
            azar.find_first_not_of(CIFRAS) == std::string_view::npos;
-}
-
-std::string CausaDeErrno(int error) {
-    switch (error) {
-        case EACCES:
-        case EPERM:
-            return "no hay permiso para escribir en la carpeta";
-        case EROFS:
-            return "el disco es de solo lectura";
-        case ENOSPC:
-        case EDQUOT:
-            return "no queda sitio en el disco";
-        case EFBIG:
-            return "el fichero pasa del tamaño que el sistema permite";
-        case ENOENT:
-        case ENOTDIR:
-            return "la carpeta no existe";
-        case EIO:
-            return "el disco falla al escribir";
-        default:
-            return "error del sistema (" + std::system_category().message(error) + ")";
-    }
 }
 
 // True when nobody else holds the lock, also where the file system has no locks: nobody cleans there.

@@ -39,6 +39,28 @@ void ExigeSustituible(const std::filesystem::path& fichero, const struct stat& a
 
 }  // namespace
 
+std::string CausaDeErrno(int error) {
+    switch (error) {
+        case EACCES:
+        case EPERM:
+            return "no hay permiso para escribir en la carpeta";
+        case EROFS:
+            return "el disco es de solo lectura";
+        case ENOSPC:
+        case EDQUOT:
+            return "no queda sitio en el disco";
+        case EFBIG:
+            return "el fichero pasa del tamaño que el sistema permite";
+        case ENOENT:
+        case ENOTDIR:
+            return "la carpeta no existe";
+        case EIO:
+            return "el disco falla al escribir";
+        default:
+            return "error del sistema (" + std::system_category().message(error) + ")";
+    }
+}
+
 std::filesystem::path FicheroReal(const std::filesystem::path& ruta) {
     constexpr int ENLACES_MAXIMOS = 40;
     auto real = ruta;
