@@ -22,26 +22,6 @@ namespace {
 constexpr int INTENTOS = 100;
 constexpr std::size_t TROZO_MAXIMO = 1U << 30;
 
-std::string CausaDeErrno(int error) {
-    switch (error) {
-        case EACCES:
-        case EPERM:
-            return "no hay permiso para escribir en la carpeta";
-        case EROFS:
-            return "el disco es de solo lectura";
-        case ENOSPC:
-        case EDQUOT:
-            return "no queda sitio en el disco";
-        case EFBIG:
-            return "el fichero pasa del tamaño que el sistema permite";
-        case ENOENT:
-        case ENOTDIR:
-            return "la carpeta no existe";
-        default:
-            return std::system_category().message(error);
-    }
-}
-
 [[noreturn]] void Falla(int error) {
     throw FalloDocx("no se puede guardar: " + CausaDeErrno(error));
 }
@@ -134,6 +114,26 @@ void ExigeSustituible(const std::filesystem::path& fichero, const struct stat& a
 }
 
 }  // namespace
+
+std::string CausaDeErrno(int error) {
+    switch (error) {
+        case EACCES:
+        case EPERM:
+            return "no hay permiso para escribir en la carpeta";
+        case EROFS:
+            return "el disco es de solo lectura";
+        case ENOSPC:
+        case EDQUOT:
+            return "no queda sitio en el disco";
+        case EFBIG:
+            return "el fichero pasa del tamaño que el sistema permite";
+        case ENOENT:
+        case ENOTDIR:
+            return "la carpeta no existe";
+        default:
+            return std::system_category().message(error);
+    }
+}
 
 std::filesystem::path FicheroReal(const std::filesystem::path& ruta) {
     constexpr int ENLACES_MAXIMOS = 40;
