@@ -155,6 +155,13 @@ THallazgo<int> BuscaIntervencionVenden(std::string_view parrafo, std::string_vie
     return {99, {}};
 }
 
+std::vector<THallazgo<int>> BuscaIntervencionesVenden(std::string_view parrafo,
+                                                      const std::vector<std::string>& nombres) {
+    std::vector<THallazgo<int>> halladas;
+    for (const std::string& nombre : nombres) halladas.push_back(BuscaIntervencionVenden(parrafo, nombre));
+    return halladas;
+}
+
 THallazgo<int> BuscaIntervencionParteDeudora(std::string_view parrafo, std::string_view nombre) {
     const std::string plegado = Pliega(parrafo);
     const int frase =
