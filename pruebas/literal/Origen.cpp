@@ -44,12 +44,6 @@ std::string SinTitulo(std::string_view nombre) {
     return std::string(StrRight(nombre, Largo(nombre) - Largo(titulo.Tratamiento) - 1));
 }
 
-// What each reader of the birth leaves for the next one.
-struct TLecturaLugar {
-    TNacimiento& Nacimiento;
-    std::string Resto;
-};
-
 // The province or the country that a text names.
 void TomaProvincia(TNacimiento& nacimiento, const std::string& texto) {
     const auto tabla = Provincias("GRUPO<>3");

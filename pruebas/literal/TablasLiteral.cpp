@@ -1,10 +1,13 @@
 #include "pruebas/literal/TablasLiteral.h"
 
+#include <algorithm>
 #include <fstream>
 #include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include "plataforma/Ansi.h"
