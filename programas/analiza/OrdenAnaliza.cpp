@@ -17,6 +17,23 @@ namespace {
 
 constexpr unsigned HILOS_MAXIMOS = 1024;
 
+void DeclaraLote(CLI::App& aplicacion, TOpcionesAnaliza& opciones) {
+    aplicacion
+        .add_option("--hilos", opciones.Hilos,
+                    "Cuántas escrituras se analizan a la vez (si no se dice, tantas "
+                    "como núcleos tiene el ordenador)")
+        ->check(CLI::Range(1U, HILOS_MAXIMOS))
+        ->option_text("N");
+    aplicacion
+        .add_option("--resultados", opciones.Resultados,
+                    "Con --json: escribe las líneas en un fichero, del que se puede continuar")
+        ->option_text("FICHERO");
+    aplicacion.add_flag("--continua", opciones.Continua,
+                        "Con --resultados: sigue donde se interrumpió, sin repetir lo que ya está");
+    aplicacion.add_flag("-0,--nulos", opciones.Nulos,
+                        "Los nombres que llegan por la entrada acaban en un byte nulo y no en fin de línea");
+}
+
 void Declara(CLI::App& aplicacion, TOpcionesAnaliza& opciones) {
     PreparaOrden(aplicacion);
     aplicacion.set_version_flag("--version", "analiza " ANALIZADOR_VERSION, "Muestra la versión y termina");
@@ -45,20 +62,7 @@ void Declara(CLI::App& aplicacion, TOpcionesAnaliza& opciones) {
                         "Guarda aunque otro programa lo tenga abierto o esté firmado");
     aplicacion.add_flag("--revisa", opciones.Revisa,
                         "Muestra lo encontrado en ventanas, para corregirlo, y escribe lo elegido");
-    aplicacion
-        .add_option("--hilos", opciones.Hilos,
-                    "Cuántas escrituras se analizan a la vez (si no se dice, tantas "
-                    "como núcleos tiene el ordenador)")
-        ->check(CLI::Range(1U, HILOS_MAXIMOS))
-        ->option_text("N");
-    aplicacion
-        .add_option("--resultados", opciones.Resultados,
-                    "Con --json: escribe las líneas en un fichero, del que se puede continuar")
-        ->option_text("FICHERO");
-    aplicacion.add_flag("--continua", opciones.Continua,
-                        "Con --resultados: sigue donde se interrumpió, sin repetir lo que ya está");
-    aplicacion.add_flag("-0,--nulos", opciones.Nulos,
-                        "Los nombres que llegan por la entrada acaban en un byte nulo y no en fin de línea");
+    DeclaraLote(aplicacion, opciones);
     aplicacion.footer(
         "Para quien cuida los vocabularios (cada una tiene su --ayuda):\n"
         "  analiza vocabulario   Revisa los vocabularios, o explica qué encuentran en un párrafo\n"
@@ -70,10 +74,10 @@ void Declara(CLI::App& aplicacion, TOpcionesAnaliza& opciones) {
 std::string Incompatible(const TOpcionesAnaliza& opciones, bool varias) {
     const bool hayLista = std::ranges::find(opciones.Ficheros, "-") != opciones.Ficheros.end();
     struct TRegla {
-        bool Falta;
+        bool Choca;
         const char* Causa;
     };
-    for (const auto& [falta, causa] : {
+    for (const auto& [choca, causa] : {
              TRegla{opciones.Salida && opciones.Guarda, "--guarda y --salida no van juntas"},
              TRegla{opciones.Origen && !opciones.Json, "--origen solo va con --json"},
              TRegla{opciones.Salida && varias, "con --salida se analiza un solo fichero"},
@@ -84,7 +88,7 @@ std::string Incompatible(const TOpcionesAnaliza& opciones, bool varias) {
              TRegla{opciones.Revisa && opciones.Hilos, "--revisa va de una en una: sobra --hilos"},
              TRegla{opciones.Guarda && opciones.Hilos, "--guarda va de una en una: sobra --hilos"},
          })
-        if (falta) return causa;
+        if (choca) return causa;
     return {};
 }
 

@@ -1,6 +1,7 @@
 #include "programas/analiza/OrdenLote.h"
 
 #include <sched.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -66,6 +67,7 @@ class TOrdenLote {
     const TPeticionDeFin FPeticion{};
     std::optional<TFicheroResultados> FResultados;
     TProgreso FProgreso;
+    const bool FSalidaEnTerminal = isatty(STDOUT_FILENO) == 1;
     TCodigoSalida FCodigo = TODO_BIEN;
     int FSenal = 0;  // the one that ended the batch before its time
 };
@@ -119,7 +121,7 @@ void TOrdenLote::Entrega(const fs::path& escritura, const TResultado& resultado)
 
 // Whoever reads it has it at once.
 void TOrdenLote::EscribeEnLaSalida(const std::string& texto) {
-    FProgreso.Quita();
+    if (FSalidaEnTerminal) FProgreso.Quita();
     Escribe(texto);
     if (std::fflush(stdout) != 0) throw TSalidaRota();
 }

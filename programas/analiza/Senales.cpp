@@ -13,27 +13,30 @@ void AlPedir(int senal) {
     pedida = senal;
 }
 
+// Returns what was set before. No SA_RESTART: who waits for a line of the list stops waiting.
+struct sigaction Pon(int senal, void (*que)(int)) {
+    struct sigaction antes {};
+    sigaction(senal, nullptr, &antes);
+    if (antes.sa_handler == SIG_IGN) return antes;
+    struct sigaction nueva {};
+    nueva.sa_handler = que;
+    nueva.sa_flags = static_cast<int>(SA_RESETHAND);
+    sigaction(senal, &nueva, nullptr);
+    return antes;
+}
+
 }  // namespace
 
 TPeticionDeFin::TPeticionDeFin() {
     pedida = 0;
-    struct sigaction marca {};
-    marca.sa_handler = AlPedir;
-    // No SA_RESTART: who waits for a line of the list stops waiting.
-    marca.sa_flags = static_cast<int>(SA_RESETHAND);
-    sigaction(SIGINT, &marca, &FInterrupcion);
-    sigaction(SIGTERM, &marca, &FTerminacion);
-    struct sigaction ninguna {};
-    ninguna.sa_handler = SIG_IGN;
-    sigaction(SIGPIPE, &ninguna, &FTuberia);
-    sigaction(SIGXFSZ, &ninguna, &FTamano);
+    FAntes = {{{SIGINT, Pon(SIGINT, AlPedir)},
+               {SIGTERM, Pon(SIGTERM, AlPedir)},
+               {SIGPIPE, Pon(SIGPIPE, SIG_IGN)},
+               {SIGXFSZ, Pon(SIGXFSZ, SIG_IGN)}}};
 }
 
 TPeticionDeFin::~TPeticionDeFin() {
-    sigaction(SIGINT, &FInterrupcion, nullptr);
-    sigaction(SIGTERM, &FTerminacion, nullptr);
-    sigaction(SIGPIPE, &FTuberia, nullptr);
-    sigaction(SIGXFSZ, &FTamano, nullptr);
+    for (const auto& [senal, antes] : FAntes) sigaction(senal, &antes, nullptr);
 }
 
 int TPeticionDeFin::Senal() {

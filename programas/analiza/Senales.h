@@ -2,13 +2,16 @@
 
 // The system's requests to end: Ctrl-C (SIGINT) and SIGTERM.
 
+#include <array>
 #include <csignal>
+#include <utility>
 
 namespace analizador {
 
 // While it lives, the first request only sets a mark and interrupts a reading that waits; the second one ends
 // the program as if nothing had been said. A reader of the output that goes away and a file that grows too
-// large are errors of writing, not the end of the program. One at a time.
+// large are errors of writing, not the end of the program. What is ignored already, as in the background,
+// stays so. One at a time.
 class TPeticionDeFin {
   public:
     TPeticionDeFin();
@@ -20,10 +23,7 @@ class TPeticionDeFin {
     [[nodiscard]] static int Senal();
 
   private:
-    struct sigaction FInterrupcion {};
-    struct sigaction FTerminacion {};
-    struct sigaction FTuberia {};
-    struct sigaction FTamano {};
+    std::array<std::pair<int, struct sigaction>, 4> FAntes{};
 };
 
 // The threads that are started while it lives get none of those requests.

@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <stdlib.h>  // NOLINT(modernize-deprecated-headers): posix_openpt
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <array>
@@ -245,6 +247,53 @@ TEST(LoteAnaliza, SiNadieLeeLaSalidaAcaba) {
     EXPECT_THAT(Archivos(ejecucion.Salida), ElementsAre(ficheros.front()));
     EXPECT_EQ(Bytes(codigo), "1\n");
     EXPECT_EQ(ejecucion.Errores, "analiza: no se puede escribir la salida\n");
+}
+
+// A terminal that the test reads: what is written to its other end.
+class TTerminal {
+  public:
+    TTerminal() : FMaestro(::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC)) {
+        if (FMaestro < 0 || ::grantpt(FMaestro) != 0 || ::unlockpt(FMaestro) != 0)
+            throw std::runtime_error("no terminal");
+        FNombre = ::ptsname(FMaestro);
+        FEsclavo = ::open(FNombre.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+        const winsize tamano{.ws_row = 24, .ws_col = 80, .ws_xpixel = 0, .ws_ypixel = 0};
+        ::ioctl(FEsclavo, TIOCSWINSZ, &tamano);
+    }
+    ~TTerminal() {
+        ::close(FEsclavo);
+        ::close(FMaestro);
+    }
+    TTerminal(const TTerminal&) = delete;
+    TTerminal& operator=(const TTerminal&) = delete;
+    [[nodiscard]] const std::string& Nombre() const { return FNombre; }
+    // What was written so far.
+    [[nodiscard]] std::string Lee() const {
+        std::string texto(std::size_t{1} << 16, '\0');
+        const auto cuantos = ::read(FMaestro, texto.data(), texto.size());
+        return texto.substr(0, cuantos > 0 ? static_cast<std::size_t>(cuantos) : 0);
+    }
+
+  private:
+    int FMaestro;
+    int FEsclavo = -1;
+    std::string FNombre;
+};
+
+TEST(LoteAnaliza, EnUnTerminalUnaBarraQueNoEstorba) {
+    const TCarpetaTemporal carpeta;
+    const auto ficheros = Escrituras(carpeta, 6);
+    const std::string falta = carpeta.Ruta() / "falta.docx";
+    const TTerminal terminal;
+    const auto salida = carpeta.Ruta() / "salida";
+    TProceso proceso({"--json", carpeta.Ruta(), falta}, salida, terminal.Nombre());
+    EXPECT_EQ(proceso.Espera(), 1);
+    EXPECT_EQ(Archivos(Bytes(salida)), Con(ficheros, {falta}));
+    const std::string visto = terminal.Lee();
+    EXPECT_THAT(visto, StartsWith("\r[###.....................] 1 de 7 escrituras"));
+    EXPECT_THAT(visto, HasSubstr("\r\x1B[Kanaliza: " + falta + ": el fichero no existe\r\n"))
+        << "the bar is taken away before a message";
+    EXPECT_THAT(visto, HasSubstr("7 escrituras, 1 con fallo, en 0:0"));
 }
 
 // The most memory that a batch of so many small deeds takes, in KiB.
