@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "plataforma/Ansi.h"
 #include "pruebas/generador/Reglas.h"
@@ -118,10 +119,27 @@ std::vector<std::string> GeneraEscritura(std::uint32_t semilla, std::size_t parr
     TParrafos hechos;
     for (const std::string& parrafo : Parrafos(expansion, azar, parrafos))
         hechos.push_back(AnsiDeUtf8(parrafo));
-    for (std::string& parrafo : hechos)
+    return Descuidada(std::move(hechos), semilla);
+}
+
+std::vector<std::string> Descuidada(std::vector<std::string> parrafos, std::uint32_t semilla) {
+    TAzar azar(semilla);
+    for (std::string& parrafo : parrafos)
         while (azar.UnaDe(10)) Descuida(parrafo, azar);
-    while (azar.UnaDe(3)) Desordena(hechos, azar);
-    return hechos;
+    while (parrafos.size() > 1 && azar.UnaDe(3)) Desordena(parrafos, azar);
+    return parrafos;
+}
+
+std::vector<std::string> Salpicada(std::vector<std::string> parrafos, std::uint32_t semilla,
+                                   const std::vector<std::string>& palabras) {
+    TAzar azar(semilla);
+    for (std::string& parrafo : parrafos)
+        while (!palabras.empty() && !azar.UnaDe(3)) {
+            std::size_t donde = azar.Entre(0, static_cast<std::uint32_t>(parrafo.size()));
+            if (!azar.UnaDe(4)) donde = std::min(parrafo.find(' ', donde), parrafo.size());
+            parrafo.insert(donde, (azar.UnaDe(4) ? "" : " ") + azar.Elige(palabras));
+        }
+    return parrafos;
 }
 
 bool DescribeFinca(std::string_view parrafo) {

@@ -25,6 +25,13 @@ inline constexpr std::string_view EMPLEADO = "MGR";
 // estate, its end left out, and its variable.
 [[nodiscard]] TContenidoDocumento ContenidoDe(const std::vector<std::string>& parrafos);
 
+// The deed with other slips, those of the seed: characters doubled, lost or replaced, paragraphs moved.
+[[nodiscard]] std::vector<std::string> Descuidada(std::vector<std::string> parrafos, std::uint32_t semilla);
+
+// The deed with some of those words (a vocabulary's, say) strewn over its paragraphs, anywhere in them.
+[[nodiscard]] std::vector<std::string> Salpicada(std::vector<std::string> parrafos, std::uint32_t semilla,
+                                                 const std::vector<std::string>& palabras);
+
 // Whether the paragraph describes an estate.
 [[nodiscard]] bool DescribeFinca(std::string_view parrafo);
 

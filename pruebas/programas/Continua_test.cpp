@@ -165,7 +165,8 @@ TEST_F(ContinuaAnaliza, InterrumpidoConCtrlCDiceComoSeguir) {
     const auto esperado = Esperado();
     const auto errores = FCarpeta.Ruta() / "errores";
     TProceso proceso(Orden(), "/dev/null", errores);
-    while (!fs::exists(FResultados) || fs::file_size(FResultados) == 0) std::this_thread::yield();
+    while (proceso.Vive() && (!fs::exists(FResultados) || fs::file_size(FResultados) == 0))
+        std::this_thread::yield();
     proceso.Senal(SIGINT);
     const int codigo = proceso.Espera();
     const auto bytes = Bytes(FResultados);
@@ -209,7 +210,8 @@ TEST_F(ContinuaAnaliza, LoCambiadoEntraEnSuSitioAunqueSeMateEntretanto) {
     const auto comienzo = fs::file_size(FResultados);
     for (int muerte = 0; muerte < 5; ++muerte) {
         TProceso proceso(Orden({"--continua"}), "/dev/null", FCarpeta.Ruta() / "errores");
-        while (fs::file_size(FResultados) <= comienzo + static_cast<std::uintmax_t>(muerte) * 10000)
+        while (proceso.Vive() &&
+               fs::file_size(FResultados) <= comienzo + static_cast<std::uintmax_t>(muerte) * 10000)
             std::this_thread::yield();
         proceso.Senal(SIGKILL);
         static_cast<void>(proceso.Espera());

@@ -11,6 +11,7 @@
 #include <nlohmann/json.hpp>
 #include <thread>
 
+#include "pruebas/comun/Saneado.h"
 #include "pruebas/programas/Proceso.h"
 #include "pruebas/programas/ProgramaDePrueba.h"
 
@@ -46,9 +47,9 @@ TTextos Archivos(const std::string& json) {
     return archivos;
 }
 
-// Waits for what another process is about to write.
-void EsperaLineas(const fs::path& fichero, std::size_t cuantas) {
-    while (!fs::exists(fichero) || Lineas(Bytes(fichero)).size() < cuantas)
+// Waits for what the process is about to write.
+void EsperaLineas(const TProceso& proceso, const fs::path& fichero, std::size_t cuantas) {
+    while (proceso.Vive() && (!fs::exists(fichero) || Lineas(Bytes(fichero)).size() < cuantas))
         std::this_thread::sleep_for(std::chrono::milliseconds(2));
 }
 
@@ -209,7 +210,7 @@ TEST(LoteAnaliza, CadaResultadoSaleEnCuantoEsta) {
     for (const char* ejemplo : EJEMPLOS) {
         nombres.push_back(Ejemplo(ejemplo));
         lista.Escribe(nombres.back() + "\n");
-        EsperaLineas(salida, nombres.size());
+        EsperaLineas(proceso, salida, nombres.size());
     }
     lista.Cierra();
     EXPECT_EQ(proceso.Espera(), 0);
@@ -224,7 +225,7 @@ TEST(LoteAnaliza, InterrumpidoEscribeLoHechoYLoDice) {
         TTuberia lista;
         TProceso proceso({"--json", "-"}, salida, errores, lista.Lectura());
         lista.Escribe(Ejemplo("testament").string() + "\n" + Ejemplo("compraventa").string() + "\n");
-        EsperaLineas(salida, 2);
+        EsperaLineas(proceso, salida, 2);
         proceso.Senal(senal);
         EXPECT_EQ(proceso.Espera(), codigo);
         EXPECT_THAT(Archivos(Bytes(salida)),
@@ -264,9 +265,7 @@ long Memoria(const TCarpetaTemporal& carpeta, int cuantas) {
 }
 
 TEST(LoteAnaliza, LaMemoriaNoCreceConElNumeroDeEscrituras) {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    GTEST_SKIP() << "the sanitizer keeps memory of its own";
-#endif
+    if (SANEADO) GTEST_SKIP() << "the sanitizer keeps memory of its own";
     const TCarpetaTemporal carpeta;
     static_cast<void>(carpeta.Copia("testament", "e1000.docx"));
     const long pocas = Memoria(carpeta, 200);

@@ -48,6 +48,12 @@ void TProceso::Senal(int senal) const {
     ::kill(FProceso, senal);
 }
 
+bool TProceso::Vive() const {
+    siginfo_t fin{};
+    return ::waitid(P_PID, static_cast<id_t>(FProceso), &fin, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+           fin.si_pid == 0;
+}
+
 int TProceso::Espera() {
     int estado = 0;
     struct rusage uso {};

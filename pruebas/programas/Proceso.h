@@ -22,6 +22,9 @@ class TProceso {
 
     void Senal(int senal) const;
 
+    // Whether it is still running.
+    [[nodiscard]] bool Vive() const;
+
     // How it ended: its exit code, or minus the signal that killed it.
     [[nodiscard]] int Espera();
 
