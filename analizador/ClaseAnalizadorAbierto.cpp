@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <unordered_set>
 #include <utility>
 
 #include "analizador/ConstAnalizador.h"
@@ -14,6 +15,7 @@
 #include "plataforma/Mensaje.h"
 #include "plataforma/Rnumcad.h"
 #include "plataforma/Ruttb.h"
+#include "rutinas/IndiceNombres.h"
 #include "rutinas/RutAnalizador.h"
 
 namespace analizador {
@@ -146,10 +148,10 @@ bool TClassAnalizadorAbierto::HayAlgunTipoPrestamo() const {
 }
 
 void TClassAnalizadorAbierto::AnalizaFincas() {
+    std::unordered_set<std::string> vistas;
     for (const TMarcador& marcador : Documento().GetMarcadores()) {
         auto finca = NombreFinca(marcador.Nombre);
-        if (finca && std::find(Fincas.begin(), Fincas.end(), *finca) == Fincas.end())
-            Fincas.push_back(std::move(*finca));
+        if (finca && vistas.insert(*finca).second) Fincas.push_back(std::move(*finca));
     }
 }
 
@@ -160,9 +162,14 @@ void TClassAnalizadorAbierto::EliminaOtorgantesDuplicados() {
 namespace {
 
 void MarcaLosDelXml(ListaTextos<TROtorgante>& otorgantes, std::string_view xml) {
-    if (xml.empty()) return;
+    TIndiceNombres documentos;
+    for (std::size_t i = 0; i < otorgantes.Cuenta(); ++i)
+        documentos.Pon(otorgantes[i].Objeto->NumDocumento, i);
+    std::vector<bool> enXml(otorgantes.Cuenta());
+    documentos.Recorre(xml, [&](std::size_t linea, Tramo) { enXml[linea] = true; });
     for (auto& [nombre, otorgante] : otorgantes)
-        if (Pos(otorgante->NumDocumento, xml) != 0) otorgante->EnXML = true;
+        if (const auto linea = documentos.LineaDe(otorgante->NumDocumento); linea && enXml[*linea])
+            otorgante->EnXML = true;
 }
 
 // Without its table there is no dialog: nullptr once the user was told.

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "rutinas/RutAnalizador.h"
+#include "rutinas/IndiceNombres.h"
 
 namespace analizador {
 
@@ -47,18 +47,24 @@ TOrigenes UneOrigenes(const TROtorgante& propio, const TOrigenes& propios, const
 
 TListaOtorgantes UneOtorgantesDuplicados(const TListaOtorgantes& encontrados) {
     TListaOtorgantes unidos;
+    TIndiceNombres nombres;
     for (std::size_t i = 0; i < encontrados.Lista.Cuenta(); ++i) {
         const TROtorgante* const hallado = encontrados.Lista[i].Objeto.get();
         if (hallado == nullptr) continue;
         const TOrigenes& origenes = encontrados.Origenes[i];
-        TROtorgante* const conocido = Otorgante(hallado->NombreOtorgante(), unidos.Lista);
-        if (conocido == nullptr) {
+        const std::string nombre = hallado->NombreOtorgante();
+        const auto linea = nombres.PrimeraEn(nombre);
+        if (!linea) {
+            nombres.Pon(nombre, unidos.Lista.Cuenta());
             unidos.Anade({*hallado, origenes});
             continue;
         }
-        TOrigenes& suyos = unidos.OrigenesDe(*conocido);
-        suyos = UneOrigenes(*conocido, suyos, origenes);
-        conocido->ActualizaValores(*hallado);
+        TROtorgante& conocido = *unidos.Lista[*linea].Objeto;
+        TOrigenes& suyos = unidos.Origenes[*linea];
+        suyos = UneOrigenes(conocido, suyos, origenes);
+        nombres.Quita(conocido.NombreOtorgante(), *linea);
+        conocido.ActualizaValores(*hallado);
+        nombres.Pon(conocido.NombreOtorgante(), *linea);
     }
     return unidos;
 }

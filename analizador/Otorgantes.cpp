@@ -25,12 +25,13 @@ void TClassAnalizadorAbierto::DesglosaParrafoRepresentacion(std::string_view tex
     TClassParrafoRepresentacion parrafo(texto, numero);
     parrafo.Desglosa();
     // The one who acts for another was named before, as a rule: looked up before the paragraph adds anybody.
-    TROtorgante* const representante = Otorgante(parrafo.Representante.Valor, OtorgantesEncontrados.Lista);
+    const auto representante = OtorgantesEncontrados.LineaNombradaEn(parrafo.Representante.Valor);
     parrafo.RellenaListaOtorgantes(OtorgantesEncontrados);
-    if (representante == nullptr) return;
-    representante->IntervencionVRK = EN_REPRESENTACION_DE;
-    representante->IntervencionINTI = INTI_REPRESENTANTE;
-    TOrigenes& origenes = OtorgantesEncontrados.OrigenesDe(*representante);
+    if (!representante) return;
+    TROtorgante& otorgante = *OtorgantesEncontrados.Lista[*representante].Objeto;
+    otorgante.IntervencionVRK = EN_REPRESENTACION_DE;
+    otorgante.IntervencionINTI = INTI_REPRESENTANTE;
+    TOrigenes& origenes = OtorgantesEncontrados.Origenes[*representante];
     origenes["IntervencionINTI"] = origenes["IntervencionVRK"] = {numero, parrafo.Representante.Donde};
 }
 
@@ -44,13 +45,20 @@ void TClassAnalizadorAbierto::RecorreParrafoTransmision() {
     const TIntervalo intervalo = MarcadorTransmision->Intervalo;
     const std::string texto = TraduceCaracteresExtranosDeWord(Documento().GetTexto(intervalo));
     const TPosicionesPorParrafo posiciones(texto, Documento().GetNumeroParrafo(intervalo.Inicio), 0);
+    std::vector<std::size_t> pendientes;
+    std::vector<std::string> nombres;
     for (std::size_t i = 0; i < OtorgantesEncontrados.Lista.Cuenta(); ++i) {
-        TROtorgante& otorgante = *OtorgantesEncontrados.Lista[i].Objeto;
+        const TROtorgante& otorgante = *OtorgantesEncontrados.Lista[i].Objeto;
         if (otorgante.IntervencionINTI != SIN_INTERVENCION) continue;
-        const auto hallada = BuscaIntervencionVenden(texto, otorgante.NombreOtorgante());
-        otorgante.IntervencionINTI = hallada.Valor;
-        if (hallada.Donde.Longitud != 0)
-            OtorgantesEncontrados.Origenes[i]["IntervencionINTI"] = posiciones.Origen(hallada.Donde);
+        pendientes.push_back(i);
+        nombres.push_back(otorgante.NombreOtorgante());
+    }
+    const auto halladas = BuscaIntervencionesVenden(texto, nombres);
+    for (std::size_t k = 0; k < pendientes.size(); ++k) {
+        const auto& [intervencion, donde] = halladas[k];
+        OtorgantesEncontrados.Lista[pendientes[k]].Objeto->IntervencionINTI = intervencion;
+        if (donde.Longitud != 0)
+            OtorgantesEncontrados.Origenes[pendientes[k]]["IntervencionINTI"] = posiciones.Origen(donde);
     }
 }
 
@@ -67,7 +75,7 @@ void TClassAnalizadorAbierto::AnalizaTestamento() {
 void TClassAnalizadorAbierto::DesglosaIntervaloTestamento(std::string_view texto, TROtorgante& otorgante) {
     TClassIntervaloTestamento intervalo(texto, otorgante);
     intervalo.Desglosa();
-    const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo);
+    const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo, texto);
     TOrigenes& origenes = OtorgantesEncontrados.OrigenesDe(otorgante);
     origenes.erase("IntervencionINTI");
     for (const auto& [campo, tramo] : intervalo.Tramos) {
@@ -85,7 +93,7 @@ void TClassAnalizadorAbierto::AnalizaPrestamo() {
 void TClassAnalizadorAbierto::DesglosaIntervaloPrestamo(std::string_view texto, TClassOperacion& operacion) {
     TClassIntervaloPrestamo intervalo(texto, operacion);
     intervalo.Desglosa();
-    const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo);
+    const auto posiciones = PosicionesDeSeccion(Documento(), MarcadorExponen->Intervalo, texto);
     for (const Tramo& tramo : intervalo.TramosPlazos)
         OrigenOperacion.Plazos.push_back(posiciones.Origen(tramo));
     for (const Tramo& tramo : intervalo.TramosTAEs) OrigenOperacion.TAEs.push_back(posiciones.Origen(tramo));

@@ -57,9 +57,9 @@ TOrigen TPosicionesPorParrafo::Origen(Tramo tramo) const {
             {primera, Llanos(tramo.Primera, tramo.Primera + tramo.Longitud)}};
 }
 
-TPosicionesPorParrafo PosicionesDeSeccion(const TWordDocumentoCustom& documento, TIntervalo intervalo) {
+TPosicionesPorParrafo PosicionesDeSeccion(const TWordDocumentoCustom& documento, TIntervalo intervalo,
+                                          std::string_view texto) {
     constexpr char MARCA_DE_CELDA = 7;
-    const std::string texto = documento.GetTexto(intervalo);
     const std::string primero = documento.GetParrafos({intervalo.Inicio, intervalo.Inicio}).front();
     // How much of its first paragraph the stretch holds; one without a line end stops before the paragraph's
     // own.

@@ -20,9 +20,9 @@ struct TParrafo {
 
 class TPosicionesPorParrafo;
 
-// For positions in the text of a stretch of the document, which may begin inside a paragraph.
+// For positions in `texto`, which is the document's text of the stretch; it may begin inside a paragraph.
 [[nodiscard]] TPosicionesPorParrafo PosicionesDeSeccion(const TWordDocumentoCustom& documento,
-                                                        TIntervalo intervalo);
+                                                        TIntervalo intervalo, std::string_view texto);
 
 // Tells of a position in a text of many paragraphs in which paragraph of the document it stands, and where in
 // that paragraph's plain text.

@@ -186,11 +186,10 @@ void TClassCliente::InsertaOtorgantes(TListaOtorgantes& lista) const {
 void TClassParrafoConSociedad::RellenaListaOtorgantes(TListaOtorgantes& lista) {
     if (!Sociedades.empty()) lista.Anade(ConSociedad(Sociedades.front()));
     std::erase_if(Personas, [&](const auto& persona) {
-        return EsUnOtorgante(persona.Valor.NombreCompleto(), lista.Lista);
+        return lista.LineaNombradaEn(persona.Valor.NombreCompleto()).has_value();
     });
-    std::erase_if(Documentos, [&](const auto& documento) {
-        return EsUnDocumentoDeOtorgante(documento.Valor.Numero, lista.Lista);
-    });
+    std::erase_if(Documentos,
+                  [&](const auto& documento) { return lista.HayDocumentoEn(documento.Valor.Numero); });
     const std::size_t anteriores = lista.Lista.Cuenta();
     InsertaOtorgantes(lista);
     for (std::size_t i = anteriores; i < lista.Lista.Cuenta(); ++i)

@@ -95,8 +95,7 @@ void TListaOtorgantes::Anade(TOtorganteHallado hallado) {
 }
 
 void TListaOtorgantes::Limpia() {
-    Lista.Limpia();
-    Origenes.clear();
+    *this = {};
 }
 
 TOrigenes& TListaOtorgantes::OrigenesDe(const TROtorgante& otorgante) {
@@ -113,8 +112,28 @@ void TListaOtorgantes::Sustituye(ListaTextos<TROtorgante> otros) {
         if (const auto linea = lineas.De(*otros[i].Objeto))
             origenes[i] = DeLosCamposIguales(Origenes[*linea], *Lista[*linea].Objeto, *otros[i].Objeto);
     }
+    Limpia();
     Lista = std::move(otros);
     Origenes = std::move(origenes);
+}
+
+void TListaOtorgantes::IndexaNuevos() {
+    for (; FIndexados < Lista.Cuenta(); ++FIndexados) {
+        const TROtorgante* const otorgante = Lista[FIndexados].Objeto.get();
+        if (otorgante == nullptr) continue;
+        FNombres.Pon(otorgante->NombreOtorgante(), FIndexados);
+        FDocumentos.Pon(otorgante->NumDocumento, FIndexados);
+    }
+}
+
+std::optional<std::size_t> TListaOtorgantes::LineaNombradaEn(std::string_view texto) {
+    IndexaNuevos();
+    return FNombres.PrimeraEn(texto);
+}
+
+bool TListaOtorgantes::HayDocumentoEn(std::string_view texto) {
+    IndexaNuevos();
+    return FDocumentos.PrimeraEn(texto).has_value();
 }
 
 }  // namespace analizador

@@ -1,5 +1,7 @@
 #include "plataforma/Ansi.h"
 
+#include <algorithm>
+#include <array>
 #include <optional>
 
 #include "plataforma/AnsiEquivalentes.h"
@@ -22,6 +24,13 @@ constexpr unsigned char MayusculaDe(unsigned char c) {
     if (c == 0x9A || c == 0x9C || c == 0x9E) return static_cast<unsigned char>(c - 0x10);
     return c == 0xFF ? 0x9F : c;
 }
+
+constexpr std::array<char, 256> MAYUSCULAS = [] {
+    std::array<char, 256> mayusculas{};
+    for (std::size_t i = 0; i < mayusculas.size(); ++i)
+        mayusculas[i] = static_cast<char>(MayusculaDe(static_cast<unsigned char>(i)));
+    return mayusculas;
+}();
 
 unsigned char ByteDeUnidad(char16_t unidad) {
     if (EsByteSinCaracter(unidad)) return static_cast<unsigned char>(unidad);
@@ -73,7 +82,7 @@ void AnnadePunto(std::u16string& texto, char32_t punto) {
 
 std::string AnsiUpperCase(std::string_view texto) {
     std::string mayusculas(texto);
-    for (char& c : mayusculas) c = static_cast<char>(MayusculaDe(static_cast<unsigned char>(c)));
+    for (char& c : mayusculas) c = MAYUSCULAS[static_cast<unsigned char>(c)];
     return mayusculas;
 }
 
@@ -105,6 +114,10 @@ std::u16string Utf16DeUtf8(std::string_view texto) {
     std::u16string unidades;
     unidades.reserve(texto.size());
     while (!texto.empty()) {
+        const auto ascii = std::find_if(texto.begin(), texto.end(), [](char c) { return (c & 0x80) != 0; });
+        unidades.append(texto.begin(), ascii);
+        texto.remove_prefix(static_cast<std::size_t>(ascii - texto.begin()));
+        if (texto.empty()) break;
         const auto punto = TomaPuntoUtf8(texto);
         AnnadePunto(unidades, punto.value_or(NO_ES_TEXTO));
         if (!punto) texto.remove_prefix(1);

@@ -12,19 +12,21 @@ namespace analizador {
 
 namespace {
 
-constexpr std::string_view BLANCOS = " \t\r\n";
+bool EsBlanco(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
 
 bool EsCifra(char c) {
     return c >= '0' && c <= '9';
 }
 
 // The character that stands for `c` in plain text; nothing when it is removed.
-std::optional<char> CaracterLlano(char c) {
-    static constexpr std::string_view COMILLAS = "“”„«»‹›"_ansi;
-    static constexpr std::string_view APOSTROFOS = "‘’‚´`"_ansi;
-    static constexpr std::string_view GUIONES = "–—\x1E"_ansi;
-    static constexpr std::string_view ESPACIOS = "\t\u00A0\v\f\x0E"_ansi;
-    static constexpr std::string_view QUITADOS = "\x1F\u00AD\x07\x01\x02\x05\x08"_ansi;
+constexpr std::optional<char> CaracterLlano(char c) {
+    constexpr std::string_view COMILLAS = "“”„«»‹›"_ansi;
+    constexpr std::string_view APOSTROFOS = "‘’‚´`"_ansi;
+    constexpr std::string_view GUIONES = "–—\x1E"_ansi;
+    constexpr std::string_view ESPACIOS = "\t\u00A0\v\f\x0E"_ansi;
+    constexpr std::string_view QUITADOS = "\x1F\u00AD\x07\x01\x02\x05\x08"_ansi;
     if (QUITADOS.find(c) != std::string_view::npos) return std::nullopt;
     if (COMILLAS.find(c) != std::string_view::npos) return '"';
     if (APOSTROFOS.find(c) != std::string_view::npos) return '\'';
@@ -32,6 +34,12 @@ std::optional<char> CaracterLlano(char c) {
     if (ESPACIOS.find(c) != std::string_view::npos) return ' ';
     return c == "…"_ansi.front() ? '.' : c;
 }
+
+constexpr std::array<std::optional<char>, 256> CARACTERES_LLANOS = [] {
+    std::array<std::optional<char>, 256> llanos{};
+    for (std::size_t i = 0; i < llanos.size(); ++i) llanos[i] = CaracterLlano(static_cast<char>(i));
+    return llanos;
+}();
 
 std::string_view SinEspacios(std::string_view texto) {
     const auto primero = texto.find_first_not_of(' ');
@@ -60,7 +68,7 @@ std::string TraduceCaracteresExtranosDeWord(std::string_view texto) {
     std::string llano;
     llano.reserve(texto.size());
     for (const char c : texto)
-        if (const auto traducido = CaracterLlano(c)) llano += *traducido;
+        if (const auto traducido = CARACTERES_LLANOS[static_cast<unsigned char>(c)]) llano += *traducido;
     return llano;
 }
 
@@ -98,11 +106,13 @@ int RightPos(std::string_view buscado, std::string_view texto) {
 }
 
 std::string_view RecortaIzquierda(std::string_view texto) {
-    return texto.substr(std::min(texto.find_first_not_of(BLANCOS), texto.size()));
+    const auto primero = std::find_if_not(texto.begin(), texto.end(), EsBlanco);
+    return texto.substr(static_cast<std::size_t>(primero - texto.begin()));
 }
 
 std::string_view RecortaDerecha(std::string_view texto) {
-    return texto.substr(0, texto.find_last_not_of(BLANCOS) + 1);
+    const auto ultimo = std::find_if_not(texto.rbegin(), texto.rend(), EsBlanco);
+    return texto.substr(0, static_cast<std::size_t>(texto.rend() - ultimo));
 }
 
 std::string_view Recorta(std::string_view texto) {

@@ -1,4 +1,5 @@
 #include "plataforma/Rut.h"
+#include "rutinas/IndiceNombres.h"
 #include "rutinas/RutAnalizador.h"
 
 namespace analizador {
@@ -24,17 +25,34 @@ std::size_t PosicionFrase(std::string_view seccion, std::string_view plegado) {
 }  // namespace
 
 THallazgo<int> BuscaIntervencionVenden(std::string_view parrafo, std::string_view nombre) {
+    return BuscaIntervencionesVenden(parrafo, {std::string(nombre)}).front();
+}
+
+std::vector<THallazgo<int>> BuscaIntervencionesVenden(std::string_view parrafo,
+                                                      const std::vector<std::string>& nombres) {
+    std::vector<THallazgo<int>> halladas(nombres.size(), {NINGUNA, {}});
+    std::vector<std::string> plegados;
+    TIndiceNombres indice;
+    for (const std::string& nombre : nombres) {
+        plegados.push_back(Pliega(nombre));
+        indice.Pon(plegados.back(), plegados.size() - 1);
+    }
     const std::string plegado = Pliega(parrafo);
-    const std::string buscado = Pliega(nombre);
     const std::size_t frase = PosicionFrase("TRANSMISION", plegado);
     // Both halves hold the phrase's first character.
-    const std::string_view cabeza = std::string_view(plegado).substr(0, frase);
-    if (const std::size_t p = PosicionNombre(buscado, cabeza); p != NADA)
-        return {TRANSMITE, {p, buscado.size()}};
-    const std::size_t cola = frase == 0 ? 0 : frase - 1;
-    if (const std::size_t p = PosicionNombre(buscado, plegado, cola); p != NADA)
-        return {ADQUIERE, {p, buscado.size()}};
-    return {NINGUNA, {}};
+    const std::size_t finCabeza = frase;
+    const std::size_t inicioCola = frase == 0 ? 0 : frase - 1;
+    indice.Recorre(plegado, [&](std::size_t i, Tramo donde) {
+        if (halladas[i].Valor != NINGUNA) return;
+        if (donde.Primera + donde.Longitud <= finCabeza)
+            halladas[i] = {TRANSMITE, donde};
+        else if (donde.Primera >= inicioCola)
+            halladas[i] = {ADQUIERE, donde};
+    });
+    // Only the first of equal names was looked for.
+    for (std::size_t i = 0; i < nombres.size(); ++i)
+        halladas[i] = halladas[indice.LineaDe(plegados[i]).value_or(i)];
+    return halladas;
 }
 
 THallazgo<int> BuscaIntervencionParteDeudora(std::string_view parrafo, std::string_view nombre) {

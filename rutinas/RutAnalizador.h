@@ -174,6 +174,9 @@ struct TEstadoCivil {
 // How a party stands in the transfer: 2 before the phrase (transfers), 1 after it or without a phrase
 // (acquires), 99 not named.
 [[nodiscard]] THallazgo<int> BuscaIntervencionVenden(std::string_view parrafo, std::string_view nombre);
+// The same for many names, one result for each: the paragraph is read once, however many they are.
+[[nodiscard]] std::vector<THallazgo<int>> BuscaIntervencionesVenden(std::string_view parrafo,
+                                                                    const std::vector<std::string>& nombres);
 
 // 4 when the party stands at or after the phrase of the debtors, else 99.
 [[nodiscard]] THallazgo<int> BuscaIntervencionParteDeudora(std::string_view parrafo, std::string_view nombre);

@@ -133,6 +133,8 @@ void TDatosDbf::TraduceTextos() {
     const auto controlador = static_cast<unsigned char>(contenido_[CONTROLADOR_EN]);
     const std::optional<TTraduccion> conocida = TraduccionDe(controlador);
     const TTraduccion tabla = conocida ? *conocida : TraduccionIdentica();
+    if (conocida && tabla == TraduccionIdentica() && contenido_.find('\0', cabecera_) == std::string::npos)
+        return;  // nothing would change
     const std::string traduccion(tabla.begin(), tabla.end());
     for (const TCampoDbf& campo : campos_)
         if (campo.Clase == TClaseCampo::Texto) TraduceCampo(campo, traduccion, conocida.has_value());
@@ -151,6 +153,8 @@ void TDatosDbf::TraduceCampo(const TCampoDbf& campo, const std::string& traducci
 }
 
 const TCampoDbf* TDatosDbf::BuscaCampo(std::string_view nombre) const {
+    for (const TCampoDbf& campo : campos_)
+        if (campo.Nombre == nombre) return &campo;
     const auto campo = std::find_if(campos_.begin(), campos_.end(),
                                     [&](const TCampoDbf& c) { return IgualSinCaja(c.Nombre, nombre); });
     return campo == campos_.end() ? nullptr : &*campo;
@@ -161,12 +165,6 @@ const TCampoDbf& TDatosDbf::Campo(std::string_view nombre) const {
     if (campo == nullptr)
         throw ErrorTabla("La tabla " + fichero_ + " no tiene el campo " + std::string(nombre));
     return *campo;
-}
-
-std::string_view TDatosDbf::Bytes(std::uint32_t fila, const TCampoDbf& campo) const {
-    const std::size_t registro = registros_[fila];
-    return std::string_view(contenido_)
-        .substr(cabecera_ + registro * longitudRegistro_ + campo.Posicion, campo.Longitud);
 }
 
 std::string TDatosDbf::Texto(std::uint32_t fila, const TCampoDbf& campo) const {

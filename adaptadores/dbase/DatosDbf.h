@@ -30,7 +30,10 @@ class TDatosDbf {
     [[nodiscard]] bool TieneCampo(std::string_view nombre) const { return BuscaCampo(nombre) != nullptr; }
 
     // The field's bytes as they stand; a text's are Windows-1252.
-    [[nodiscard]] std::string_view Bytes(std::uint32_t fila, const TCampoDbf& campo) const;
+    [[nodiscard]] std::string_view Bytes(std::uint32_t fila, const TCampoDbf& campo) const {
+        const std::size_t registro = cabecera_ + registros_[fila] * longitudRegistro_;
+        return {contenido_.data() + registro + campo.Posicion, campo.Longitud};
+    }
     // The field without the blanks around a number or to the right of a text; a logical one T, F or empty.
     [[nodiscard]] std::string Texto(std::uint32_t fila, const TCampoDbf& campo) const;
     // The field's value: of a number any, of a text a whole one; nullopt when it is empty or none.

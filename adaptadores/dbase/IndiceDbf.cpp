@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <numeric>
 #include <optional>
+#include <utility>
 
 #include "adaptadores/dbase/ValoresDbf.h"
 #include "plataforma/Ansi.h"
@@ -39,17 +41,38 @@ const std::array<unsigned char, 256>& Plegados() {
     return plegados;
 }
 
-unsigned char Plegado(char c) {
-    return Plegados()[static_cast<unsigned char>(c)];
+std::uint64_t Alto(const char* ocho) {
+    const auto byte = [&](unsigned i) {
+        return static_cast<std::uint64_t>(static_cast<unsigned char>(ocho[i])) << 8U * (7U - i);
+    };
+    return byte(0) | byte(1) | byte(2) | byte(3) | byte(4) | byte(5) | byte(6) | byte(7);
+}
+
+// The first eight bytes of a text, folded and followed by blanks if there are less, as a number that compares
+// as they do. Bytes below "`" fold to themselves, and nearly all texts have no others.
+std::uint64_t Ocho(std::string_view texto) {
+    std::array<char, sizeof(std::uint64_t)> bytes;
+    bytes.fill(' ');
+    if (texto.size() < bytes.size()) {
+        std::copy(texto.begin(), texto.end(), bytes.begin());
+        texto = {bytes.data(), bytes.size()};
+    }
+    const std::uint64_t ocho = Alto(texto.data());
+    constexpr std::uint64_t EN_CADA_BYTE = 0x0101010101010101U;
+    if (((ocho | (ocho + 0x20U * EN_CADA_BYTE)) & 0x80U * EN_CADA_BYTE) == 0) return ocho;
+    std::transform(texto.begin(), texto.begin() + bytes.size(), bytes.begin(),
+                   [](char c) { return static_cast<char>(Plegados()[static_cast<unsigned char>(c)]); });
+    return Alto(bytes.data());
 }
 
 // As if both went on in blanks.
 int ComparaTextos(std::string_view a, std::string_view b) {
-    const std::size_t comun = std::max(a.size(), b.size());
-    for (std::size_t i = 0; i < comun; ++i) {
-        const unsigned char x = i < a.size() ? Plegado(a[i]) : ' ';
-        const unsigned char y = i < b.size() ? Plegado(b[i]) : ' ';
+    while (!a.empty() || !b.empty()) {
+        const std::uint64_t x = Ocho(a);
+        const std::uint64_t y = Ocho(b);
         if (x != y) return x < y ? -1 : 1;
+        a.remove_prefix(std::min(a.size(), sizeof x));
+        b.remove_prefix(std::min(b.size(), sizeof y));
     }
     return 0;
 }
@@ -64,73 +87,52 @@ bool EsNumero(const TCampoDbf& campo) {
            campo.Clase != TClaseCampo::Vacio;
 }
 
-constexpr std::size_t ANCHO_NUMERO = 9;
-
-std::size_t AnchoOrdenable(const TCampoDbf& campo) {
-    return EsNumero(campo) ? ANCHO_NUMERO : campo.Longitud;
-}
-
-// Bytes that compare as the numbers do, the empty one first.
-void PonNumero(std::optional<double> numero, char* destino) {
+// Whole numbers that compare as the numbers do; 0 is kept for the empty one.
+std::uint64_t Ordenable(std::optional<double> numero) {
     constexpr std::uint64_t SIGNO = std::uint64_t{1} << 63U;
-    if (!numero) return;
+    if (!numero) return 0;
     const auto bits = std::bit_cast<std::uint64_t>(*numero + 0.0);  // one zero alone
-    const std::uint64_t ordenado = (bits & SIGNO) != 0 ? ~bits : bits | SIGNO;
-    destino[0] = 1;
-    for (std::size_t i = 1; i < ANCHO_NUMERO; ++i)
-        destino[i] = static_cast<char>(ordenado >> 8U * (ANCHO_NUMERO - 1 - i));
+    return (bits & SIGNO) != 0 ? ~bits : bits | SIGNO;
 }
 
-// The folded key of every row, side by side, so that comparing two is comparing their bytes.
+// The rows' keys, compared where they lie.
 class TClavesOrdenables {
   public:
     TClavesOrdenables(const TDatosDbf& datos, const std::vector<const TCampoDbf*>& campos)
-        : datos_(datos), campos_(campos) {
-        for (const TCampoDbf* campo : campos_) ancho_ += AnchoOrdenable(*campo);
-        claves_.resize(ancho_ * datos_.Filas(), '\0');
-        for (std::uint32_t fila = 0; fila < datos_.Filas(); ++fila) Pon(fila);
-    }
+        : datos_(datos), campos_(campos) {}
 
-    // The key's first bytes as a number that compares as they do.
-    [[nodiscard]] std::uint64_t Prefijo(std::uint32_t fila) const {
-        std::uint64_t prefijo = 0;
-        for (std::size_t i = 0; i < sizeof prefijo; ++i)
-            prefijo = prefijo << 8U | (i < ancho_ ? static_cast<unsigned char>(Clave(fila)[i]) : 0U);
-        return prefijo;
+    // A number that compares as the keys do, the same for those that begin alike.
+    [[nodiscard]] std::uint64_t Comienzo(std::uint32_t fila) const {
+        const TCampoDbf& campo = *campos_.front();
+        return EsNumero(campo) ? Ordenable(datos_.Numero(fila, campo)) : Ocho(datos_.Bytes(fila, campo));
     }
 
     [[nodiscard]] bool Antes(std::uint32_t a, std::uint32_t b) const {
-        if (const int orden = Clave(a).compare(Clave(b)); orden != 0) return orden < 0;
+        const int enBytes = ComparaBytes(a, b);
+        if (enBytes == 0) return a < b;
         for (const TCampoDbf* campo : campos_)
-            if (const int orden = datos_.Bytes(a, *campo).compare(datos_.Bytes(b, *campo)); orden != 0)
-                return orden < 0;
-        return a < b;
+            if (const int orden = ComparaClaves(a, b, *campo); orden != 0) return orden < 0;
+        return enBytes < 0;
     }
 
   private:
-    [[nodiscard]] std::string_view Clave(std::uint32_t fila) const {
-        return {claves_.data() + fila * ancho_, ancho_};
+    // As they stand in the file.
+    [[nodiscard]] int ComparaBytes(std::uint32_t a, std::uint32_t b) const {
+        for (const TCampoDbf* campo : campos_)
+            if (const int orden = datos_.Bytes(a, *campo).compare(datos_.Bytes(b, *campo)); orden != 0)
+                return orden;
+        return 0;
     }
 
-    void Pon(std::uint32_t fila) {
-        char* destino = claves_.data() + fila * ancho_;
-        const std::array<unsigned char, 256>& plegados = Plegados();
-        for (const TCampoDbf* campo : campos_) {
-            const std::string_view bytes = datos_.Bytes(fila, *campo);
-            if (EsNumero(*campo))
-                PonNumero(datos_.Numero(fila, *campo), destino);
-            else
-                std::transform(bytes.begin(), bytes.end(), destino, [&](char c) {
-                    return static_cast<char>(plegados[static_cast<unsigned char>(c)]);
-                });
-            destino += AnchoOrdenable(*campo);
-        }
+    [[nodiscard]] int ComparaClaves(std::uint32_t a, std::uint32_t b, const TCampoDbf& campo) const {
+        if (!EsNumero(campo)) return ComparaTextos(datos_.Bytes(a, campo), datos_.Bytes(b, campo));
+        const std::uint64_t x = Ordenable(datos_.Numero(a, campo));
+        const std::uint64_t y = Ordenable(datos_.Numero(b, campo));
+        return x == y ? 0 : x < y ? -1 : 1;
     }
 
     const TDatosDbf& datos_;
     const std::vector<const TCampoDbf*>& campos_;
-    std::size_t ancho_ = 0;
-    std::string claves_;
 };
 
 }  // namespace
@@ -181,17 +183,32 @@ int TClaveDbf::ComparaParte(std::uint32_t fila, const TCampoDbf& campo, const TP
     return ComparaNumeros(datos_.Numero(fila, campo), buscado);
 }
 
-TIndiceDbf::TIndiceDbf(const TDatosDbf& datos, const std::vector<std::string>& campos) {
+// A table is often written in the order of one of its indexes. If not, sorting by the beginnings of the keys
+// leaves few rows to compare in full.
+TIndiceDbf::TIndiceDbf(const TDatosDbf& datos, const std::vector<std::string>& campos)
+    : orden_(datos.Filas()) {
     for (const std::string& campo : campos) campos_.push_back(&datos.Campo(campo));
     const TClavesOrdenables claves(datos, campos_);
+    std::iota(orden_.begin(), orden_.end(), 0U);
+    std::vector<std::uint64_t> comienzos(orden_.size());
+    std::transform(orden_.begin(), orden_.end(), comienzos.begin(),
+                   [&](std::uint32_t fila) { return claves.Comienzo(fila); });
+    const auto antes = [&](std::uint32_t a, std::uint32_t b) {
+        return comienzos[a] != comienzos[b] ? comienzos[a] < comienzos[b] : claves.Antes(a, b);
+    };
+    if (std::is_sorted(orden_.begin(), orden_.end(), antes)) return;
+
     std::vector<std::pair<std::uint64_t, std::uint32_t>> filas;
-    filas.reserve(datos.Filas());
-    for (std::uint32_t fila = 0; fila < datos.Filas(); ++fila) filas.emplace_back(claves.Prefijo(fila), fila);
-    std::sort(filas.begin(), filas.end(), [&](const auto& a, const auto& b) {
-        return a.first != b.first ? a.first < b.first : claves.Antes(a.second, b.second);
-    });
-    orden_.reserve(filas.size());
-    for (const auto& fila : filas) orden_.push_back(fila.second);
+    filas.reserve(orden_.size());
+    for (const std::uint32_t fila : orden_) filas.emplace_back(comienzos[fila], fila);
+    std::sort(filas.begin(), filas.end());
+    std::transform(filas.begin(), filas.end(), orden_.begin(), [](const auto& fila) { return fila.second; });
+    for (std::size_t desde = 0, hasta = 0; desde < filas.size(); desde = hasta) {
+        while (hasta < filas.size() && filas[hasta].first == filas[desde].first) ++hasta;
+        const auto primera = orden_.begin() + static_cast<std::ptrdiff_t>(desde);
+        const auto ultima = orden_.begin() + static_cast<std::ptrdiff_t>(hasta);
+        if (!std::is_sorted(primera, ultima, antes)) std::sort(primera, ultima, antes);
+    }
 }
 
 }  // namespace analizador

@@ -1,7 +1,11 @@
 #include "adaptadores/memoria/Buscador.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <functional>
 
 #include "adaptadores/memoria/Letras.h"
 #include "plataforma/Ansi.h"
@@ -11,13 +15,14 @@ namespace analizador {
 namespace {
 
 constexpr std::size_t LONGITUD_MAXIMA = 255;
+constexpr std::size_t RACHA = 4;
 constexpr std::size_t NO_ESTA = std::string_view::npos;
 
 bool EsGuionOpcional(char c) {
     return c == '\x1F' || c == '\xAD';
 }
 
-char SinVariantes(char c) {
+constexpr char SinVariantes(char c) {
     switch (c) {
         case '\x91':
         case '\x92':
@@ -32,11 +37,16 @@ char SinVariantes(char c) {
     }
 }
 
+constexpr std::array<char, 256> COMPARABLES = [] {
+    std::array<char, 256> comparables{};
+    for (std::size_t i = 0; i < comparables.size(); ++i) comparables[i] = SinVariantes(static_cast<char>(i));
+    return comparables;
+}();
+
 std::string Comparable(std::string_view texto) {
-    std::string salida;
-    salida.reserve(texto.size());
-    for (const char c : texto)
-        if (!EsGuionOpcional(c)) salida.push_back(SinVariantes(c));
+    std::string salida(texto);
+    for (char& c : salida) c = COMPARABLES[static_cast<unsigned char>(c)];
+    std::erase_if(salida, EsGuionOpcional);
     return salida;
 }
 
@@ -59,9 +69,14 @@ struct TBusqueda {
 
     // The first match that begins at `desde` or later, or NO_ESTA.
     [[nodiscard]] std::size_t Primera(std::size_t desde) const {
-        auto inicio = Texto.find(Buscado, desde);
-        while (inicio != NO_ESTA && !Vale(inicio)) inicio = Texto.find(Buscado, inicio + 1);
-        return inicio;
+        const std::boyer_moore_horspool_searcher buscador(Buscado.begin(), Buscado.end());
+        for (auto resto = Texto.substr(std::min(desde, Texto.size()));;) {
+            const auto lugar = std::search(resto.begin(), resto.end(), buscador);
+            if (lugar == resto.end()) return NO_ESTA;
+            const auto inicio = static_cast<std::size_t>(lugar - Texto.begin());
+            if (Vale(inicio)) return inicio;
+            resto = Texto.substr(inicio + 1);
+        }
     }
 
     // The last match that ends at `hasta` or earlier, or NO_ESTA.
@@ -88,6 +103,20 @@ TBuscador::TBuscador(std::string_view texto) : FTexto(Comparable(texto)), FMayus
     FPosiciones.reserve(FTexto.size());
     for (std::size_t i = 0; i < texto.size(); ++i)
         if (!EsGuionOpcional(texto[i])) FPosiciones.push_back(static_cast<int>(i));
+    for (std::size_t i = 0; i + RACHA <= FMayusculas.size(); ++i) FRachas.set(SumaDeRacha(&FMayusculas[i]));
+}
+
+std::size_t TBuscador::SumaDeRacha(const char* racha) {
+    std::uint32_t letras = 0;
+    static_assert(sizeof letras == RACHA);
+    std::memcpy(&letras, racha, RACHA);
+    return letras * 0x9E3779B1U >> 14U;  // multiplied, so that every letter counts in the high bits kept
+}
+
+bool TBuscador::PuedeEstar(std::string_view mayusculas) const {
+    for (std::size_t i = 0; i + RACHA <= mayusculas.size(); ++i)
+        if (!FRachas[SumaDeRacha(&mayusculas[i])]) return false;
+    return true;
 }
 
 std::optional<TIntervalo> TBuscador::Busca(std::string_view buscado, const TOpcionesBusqueda& opciones,
@@ -95,7 +124,7 @@ std::optional<TIntervalo> TBuscador::Busca(std::string_view buscado, const TOpci
     CompruebaOpciones(buscado, opciones);
     const bool mayusculas = !opciones.DistingueMayusculas;
     const std::string clave = mayusculas ? AnsiUpperCase(Comparable(buscado)) : Comparable(buscado);
-    if (clave.empty()) return std::nullopt;
+    if (clave.empty() || !PuedeEstar(mayusculas ? clave : AnsiUpperCase(clave))) return std::nullopt;
 
     const TBusqueda busqueda{mayusculas ? FMayusculas : FTexto, clave, opciones.PalabrasCompletas};
     const auto comparable = [this](int posicion) {

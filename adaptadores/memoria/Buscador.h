@@ -2,6 +2,8 @@
 
 // The find operation on a text that does not change.
 
+#include <bitset>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,9 +37,16 @@ class TBuscador {
                                                   TIntervalo desde) const;
 
   private:
+    static constexpr std::size_t SUMAS = std::size_t{1} << 18U;
+    [[nodiscard]] static std::size_t SumaDeRacha(const char* racha);
+    [[nodiscard]] bool PuedeEstar(std::string_view mayusculas) const;
+
     std::string FTexto;            // equal characters made one, optional hyphens left out
     std::string FMayusculas;       // the same in capitals
     std::vector<int> FPosiciones;  // of each character of FTexto in the text
+    // The runs of four characters that FMayusculas has, by their sum: most of what is looked for is not in
+    // the text, and is known not to be by a run that the text has not.
+    std::bitset<SUMAS> FRachas;
 };
 
 }  // namespace analizador

@@ -2,8 +2,24 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <utility>
 
 namespace analizador {
+
+namespace {
+
+QWidget*& PorDefecto() {
+    static QWidget* ventana = nullptr;
+    return ventana;
+}
+
+}  // namespace
+
+TVentanaPorDefecto::TVentanaPorDefecto(QWidget& ventana) : anterior_(std::exchange(PorDefecto(), &ventana)) {}
+
+TVentanaPorDefecto::~TVentanaPorDefecto() {
+    PorDefecto() = anterior_;
+}
 
 QWidget* VentanaPadre(const TComponente* propietario) {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
@@ -12,7 +28,7 @@ QWidget* VentanaPadre(const TComponente* propietario) {
         return admiteFoco ? activa : activa->parentWidget();
     }
     const auto* anfitrion = dynamic_cast<const TVentanaAnfitrion*>(propietario);
-    return anfitrion != nullptr ? anfitrion->Ventana() : nullptr;
+    return anfitrion != nullptr ? anfitrion->Ventana() : PorDefecto();
 }
 
 void MarcaFoco(QWidget& control, bool conFoco) {

@@ -19,7 +19,20 @@ class TVentanaAnfitrion : public TComponente {
     QWidget* ventana_;
 };
 
-// Over which window a new one shows: the active one of this process, else the owner's, else none (nullptr).
+// While it lives, new windows that have no other one to show over show over this one, which must outlive it.
+class TVentanaPorDefecto {
+  public:
+    explicit TVentanaPorDefecto(QWidget& ventana);
+    ~TVentanaPorDefecto();
+    TVentanaPorDefecto(const TVentanaPorDefecto&) = delete;
+    TVentanaPorDefecto& operator=(const TVentanaPorDefecto&) = delete;
+
+  private:
+    QWidget* anterior_;
+};
+
+// Over which window a new one shows: the active one of this process, else the owner's, else that of
+// TVentanaPorDefecto, else none (nullptr).
 [[nodiscard]] QWidget* VentanaPadre(const TComponente* propietario = nullptr);
 
 // Marks a control as the one that has the focus, on the suite's yellow with dark letters whatever the palette

@@ -38,10 +38,8 @@ class TWordAbierto {
     // Takes the active document; nullptr when there is none.
     TDocumentoWord* TomaDocumento() {
         Suelta();
-        const TObjetoWord aplicacion(FConexion, FDada ? Comparte(FDada.get()) : WordEnMarcha(),
-                                     "Application");
         try {
-            FDocumento.emplace(aplicacion.Objeto("ActiveDocument", "Document"));
+            FDocumento.emplace(Aplicacion().Objeto("ActiveDocument", "Document"));
         } catch (const TFalloWord& fallo) {
             if (!fallo.Es(FALLO_SIN_DOCUMENTO)) throw;
         }
@@ -52,8 +50,20 @@ class TWordAbierto {
         if (!FDada) FConexion.Miembros.clear();  // the next Word may be another
     }
     [[nodiscard]] TDocumentoWord* Documento() { return FDocumento ? &*FDocumento : nullptr; }
+    [[nodiscard]] std::intptr_t Ventana() {
+        try {
+            return Aplicacion().Objeto("ActiveWindow", "Window").Entero("Hwnd");
+        } catch (const TFalloWord& fallo) {
+            if (!fallo.EsMiembroDesconocido() && !fallo.Es(FALLO_SIN_DOCUMENTO)) throw;
+            return 0;
+        }
+    }
 
   private:
+    [[nodiscard]] TObjetoWord Aplicacion() {
+        return {FConexion, FDada ? Comparte(FDada.get()) : WordEnMarcha(), "Application"};
+    }
+
     TApartamento FApartamento;
     TConexionWord FConexion;
     TPuntero<IDispatch> FDada;  // nullptr: the one that is running
@@ -94,6 +104,10 @@ std::unique_ptr<TAnalisisEnCurso> TAplicacionWord::EmpiezaAnalisis() {
 
 TWordDocumentoCustom* TAplicacionWord::GetDocumentoActivo() {
     return FEnAnalisis ? FWord->Documento() : FWord->TomaDocumento();
+}
+
+std::intptr_t TAplicacionWord::Ventana() {
+    return FWord->Ventana();
 }
 
 }  // namespace analizador

@@ -3,6 +3,7 @@
 // Word as the word processor of the analysis. Nothing here needs Windows' headers.
 
 #include <chrono>
+#include <cstdint>
 #include <memory>
 
 #include "plataforma/VrkWord.h"
@@ -36,6 +37,10 @@ class TAplicacionWord : public TWordApplicationConDocumentos {
     // is now, valid until the next call. Nullptr when Word has none open. Throws ErrorWord when Word is not
     // open.
     [[nodiscard]] TWordDocumentoCustom* GetDocumentoActivo() override;
+
+    // The window that is active in Word, as the number of its HWND; 0 when there is none or this Word does
+    // not tell it (those before 2013). Throws ErrorWord when Word is not open or stays busy.
+    [[nodiscard]] std::intptr_t Ventana();
 
   private:
     class TAnalisis;

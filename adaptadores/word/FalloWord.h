@@ -26,6 +26,10 @@ class TFalloWord : public ErrorWord {
     [[nodiscard]] bool Es(int numero) const {
         return HRESULT_FACILITY(FCodigo) == FACILITY_CONTROL && HRESULT_CODE(FCodigo) == numero;
     }
+    // True when this Word has no such member.
+    [[nodiscard]] bool EsMiembroDesconocido() const {
+        return FCodigo == DISP_E_UNKNOWNNAME || FCodigo == DISP_E_MEMBERNOTFOUND;
+    }
 
   private:
     HRESULT FCodigo;

@@ -1,5 +1,6 @@
-// analiza-word: analyses the deed that is open in Word and prints the report. It takes no arguments: CONFIG
-// and TABLAS are beside it. Nothing is put to the user, and the document gets the sections' bookmarks.
+// analiza-word [--revisa]: analyses the deed that is open in Word and prints the report; with --revisa, that
+// of what the user accepts in windows over Word's. CONFIG and TABLAS are beside it. The document gets the
+// sections' bookmarks.
 
 #include <windows.h>
 
@@ -11,15 +12,20 @@
 
 #include "adaptadores/word/AplicacionWord.h"
 #include "analizador/ClaseAnalizadorAbierto.h"
+#include "analizador/Pizarra.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
 #include "programas/analiza/Entorno.h"
+#include "programas/biblioteca/Ventanas.h"
 
 namespace {
 
 using namespace analizador;
 
+// The codes of analiza.
 constexpr int FALLO = 1;
+constexpr int MAL_USO = 2;
+constexpr int REVISION_CANCELADA = 3;
 
 int Avisa(std::string_view causa) {
     std::cerr << "analiza-word: " << causa << '\n';
@@ -32,21 +38,31 @@ std::string SinRetornos(std::string texto) {
     return texto;
 }
 
-int Analiza() {
+int Analiza(bool revisa) {
     const TEntorno entorno(std::nullopt, std::nullopt);
     TAplicacionWord word;
+    const auto ventanas = revisa ? AbreVentanas(word.Ventana()) : nullptr;
     TClassAnalizadorAbierto sesion(nullptr, &word);
-    (void)sesion.Analiza(true);
-    std::cout << SinRetornos(Utf8DeAnsi(sesion.Pizarra)) << std::flush;
+    if (!sesion.Analiza(!revisa) && revisa) {
+        (void)Avisa("revisión cancelada");
+        return REVISION_CANCELADA;
+    }
+    const std::string informe = revisa ? TextoPizarra(sesion, sesion.ConceptosValidos) : sesion.Pizarra;
+    std::cout << SinRetornos(Utf8DeAnsi(informe)) << std::flush;
     return std::cout ? 0 : FALLO;
 }
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
     SetConsoleOutputCP(CP_UTF8);
+    const bool revisa = argc == 2 && std::string_view(argv[1]) == "--revisa";
+    if (argc > 1 && !revisa) {
+        (void)Avisa("uso: analiza-word [--revisa]");
+        return MAL_USO;
+    }
     try {
-        return Analiza();
+        return Analiza(revisa);
     } catch (const ErrorWord& error) {
         return Avisa(Utf8DeAnsi(error.what()));
     } catch (const ErrorTabla& error) {

@@ -3,6 +3,7 @@
 // Where the deeds of a host come from, as far as the system has it. What it has not throws ErrorInterfaz
 // (ANALIZADOR_NO_ANALIZADA).
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -18,9 +19,13 @@ namespace analizador {
 // Saves a file's analysis, made by AnalizaDocx without an error. Throws ErrorDocumento.
 void GuardaDocx(TAnalisisEscritura& analisis, const std::filesystem::path& destino, bool forzar);
 
-// Analyses the document that is active in Word. `aplicacion`: the IDispatch of its Application object; null:
-// the one that is running. The result is of this thread, and Documento() is not for it.
+// Analyses the document that is active in Word; in a review the windows show over Word's. `aplicacion`: the
+// IDispatch of its Application object; null: the one that is running. The result is of this thread, and
+// Documento() is not for it.
 [[nodiscard]] std::unique_ptr<TAnalisisEscritura> AnalizaWord(void* aplicacion, bool revisa);
+
+// The window of the host that has the keyboard, as the number of its HWND; 0 none.
+[[nodiscard]] std::intptr_t VentanaDelAnfitrion();
 
 // The folder of the library's file where its CONFIG and TABLAS may be; none where they are only looked for
 // beside the host program.

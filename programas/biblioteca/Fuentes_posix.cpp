@@ -20,6 +20,10 @@ std::unique_ptr<TAnalisisEscritura> AnalizaWord(void*, bool) {
                         "en este sistema no hay Word: solo se llega a él en Windows");
 }
 
+std::intptr_t VentanaDelAnfitrion() {
+    return 0;
+}
+
 std::optional<std::filesystem::path> CarpetaDeLaBiblioteca() {
     return std::nullopt;
 }

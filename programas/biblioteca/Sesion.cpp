@@ -3,12 +3,13 @@
 #include <utility>
 
 #include "adaptadores/docx/FicheroDocx.h"
-#include "dialogos/ListaConceptosPreseleccionados.h"
 #include "plataforma/Ansi.h"
 #include "programas/analiza/SalidaJson.h"
 #include "programas/biblioteca/ErrorInterfaz.h"
 #include "programas/biblioteca/Fuentes.h"
 #include "programas/biblioteca/Textos.h"
+#include "programas/biblioteca/Turno.h"
+#include "programas/biblioteca/Ventanas.h"
 #include "programas/biblioteca/analizador.h"
 
 namespace analizador {
@@ -22,11 +23,6 @@ void ExigeOpciones(unsigned opciones, unsigned permitidas) {
 
 bool ConRevision(unsigned opciones) {
     return (opciones & ANALIZADOR_CON_REVISION) != 0;
-}
-
-void ExigeVentanas(unsigned opciones) {
-    if (ConRevision(opciones) && InstalaVistaPreseleccion::Actual() == nullptr)
-        throw ErrorInterfaz(ANALIZADOR_SIN_VENTANAS, "no hay ventanas instaladas para la revisión");
 }
 
 // Every paragraph ends in CR, whichever line end the host uses.
@@ -65,14 +61,16 @@ void TSesionAnfitrion::Recoge(const std::string& archivo, unsigned opciones,
 
 void TSesionAnfitrion::AnalizaFichero(const std::string& fichero, unsigned opciones) {
     ExigeOpciones(opciones, ANALIZADOR_CON_REVISION | ANALIZADOR_CON_ORIGEN);
-    ExigeVentanas(opciones);
+    const TTurno turno(ConRevision(opciones));
+    const auto ventanas = ConRevision(opciones) ? AbreVentanas(VentanaDelAnfitrion()) : nullptr;
     FFichero = RutaDe(fichero);
     Recoge(fichero, opciones, AnalizaDocx(FFichero, ConRevision(opciones)));
 }
 
 void TSesionAnfitrion::AnalizaTexto(const std::string& texto, unsigned opciones) {
     ExigeOpciones(opciones, ANALIZADOR_CON_REVISION | ANALIZADOR_CON_ORIGEN);
-    ExigeVentanas(opciones);
+    const TTurno turno(ConRevision(opciones));
+    const auto ventanas = ConRevision(opciones) ? AbreVentanas(VentanaDelAnfitrion()) : nullptr;
     FActual.Texto = AnsiDeUtf8(ConFinesDeParrafo(texto));
     Recoge("", opciones,
            std::make_unique<TAnalisisEscritura>(std::exchange(FActual, {}), ConRevision(opciones)));
@@ -80,7 +78,7 @@ void TSesionAnfitrion::AnalizaTexto(const std::string& texto, unsigned opciones)
 
 void TSesionAnfitrion::AnalizaWord(void* aplicacion, unsigned opciones) {
     ExigeOpciones(opciones, ANALIZADOR_CON_REVISION);
-    ExigeVentanas(opciones);
+    const TTurno turno(ConRevision(opciones));
     Recoge("", opciones, analizador::AnalizaWord(aplicacion, ConRevision(opciones)));
 }
 

@@ -77,7 +77,7 @@ TEST(PosicionesDeSeccion, ValenTambienCuandoLaSeccionEmpiezaOAcabaDentroDeUnParr
         for (const int fin : {largo - 1, std::min(inicio + 4, largo - 1)}) {
             const TIntervalo intervalo{inicio, fin};
             const std::string texto = documento.GetTexto(intervalo);
-            const auto posiciones = PosicionesDeSeccion(documento, intervalo);
+            const auto posiciones = PosicionesDeSeccion(documento, intervalo, texto);
             for (std::size_t i = 0; i < texto.size(); ++i) {
                 if (!std::isalnum(static_cast<unsigned char>(texto[i]))) continue;
                 if (texto.find('\r') == std::string::npos && fin != largo - 1)

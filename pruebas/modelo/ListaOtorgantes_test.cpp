@@ -72,6 +72,30 @@ TEST_F(ListaOtorgantes, LoRevisadoConservaElOrigenDeLoQueNoCambio) {
     EXPECT_EQ(lista_.Origenes[2], (TOrigenes{{"Nombre", En(1)}, {"Vecindad", En(1)}}));
 }
 
+TEST_F(ListaOtorgantes, HallaALosNombradosYSusDocumentos) {
+    EXPECT_EQ(lista_.LineaNombradaEn("DON LUIS MAS Y ANA GIL"), 0U);
+    EXPECT_EQ(lista_.LineaNombradaEn("DON LUIS MAS"), 1U);
+    EXPECT_EQ(lista_.LineaNombradaEn("DON LUIS"), std::nullopt);
+    EXPECT_TRUE(lista_.HayDocumentoEn("NIF 87654321X."));
+    EXPECT_FALSE(lista_.HayDocumentoEn("NIF 8765432X."));
+
+    lista_.Anade({Persona("EVA", "ROS", "00000000T"), {}});  // after the first look-up
+    EXPECT_EQ(lista_.LineaNombradaEn("EVA ROS"), 2U);
+    EXPECT_TRUE(lista_.HayDocumentoEn("00000000T"));
+}
+
+TEST_F(ListaOtorgantes, NoHallaALosQueYaNoEstan) {
+    ASSERT_EQ(lista_.LineaNombradaEn("ANA GIL"), 0U);
+    ListaTextos<TROtorgante> elegidos;
+    Elige(elegidos, Persona("EVA", "ROS", "00000000T"));
+    lista_.Sustituye(std::move(elegidos));
+    EXPECT_EQ(lista_.LineaNombradaEn("ANA GIL"), std::nullopt);
+    EXPECT_EQ(lista_.LineaNombradaEn("EVA ROS"), 0U);
+    lista_.Limpia();
+    EXPECT_EQ(lista_.LineaNombradaEn("EVA ROS"), std::nullopt);
+    EXPECT_FALSE(lista_.HayDocumentoEn("00000000T"));
+}
+
 TEST_F(ListaOtorgantes, SustituyePorNadie) {
     lista_.Sustituye({});
     EXPECT_TRUE(lista_.Lista.Vacia());

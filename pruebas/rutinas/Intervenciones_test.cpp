@@ -66,6 +66,20 @@ TEST_F(Intervenciones, BuscaIntervencionVenden) {
               });
 }
 
+TEST_F(Intervenciones, VariosNombresDeUnaVez) {
+    const std::string_view parrafo = "Luís y Ana venden a PAU y a ANA MARI, esposa de PAU"_a;
+    const std::vector<std::string> nombres = {"LUIS", "PAU", "EVA",      "",
+                                              "Pau",  "ANA", "ANA MARI", std::string("LUÍS"_a)};
+    const auto halladas = BuscaIntervencionesVenden(parrafo, nombres);
+    ASSERT_EQ(halladas.size(), nombres.size());
+    for (std::size_t i = 0; i < nombres.size(); ++i)
+        EXPECT_EQ(halladas[i], BuscaIntervencionVenden(parrafo, nombres[i])) << nombres[i];
+    const THallazgo<int> pau{1, {20, 3}};
+    EXPECT_EQ(halladas[1], pau);
+    EXPECT_EQ(halladas[4], pau);
+    EXPECT_EQ(halladas[5], (THallazgo<int>{2, {7, 3}}));
+}
+
 TEST_F(Intervenciones, ParteDeLaFraseEnLosDosLados) {
     vocabulario_.Pon(TIdioma::Castellano, {{"TRANSMISION", {"A VENDER"}}});
     Comprueba(BuscaIntervencionVenden,

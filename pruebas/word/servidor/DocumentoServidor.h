@@ -51,6 +51,8 @@ class TDocumentoServidor {
     std::vector<int> FIndices;  // of each position, and of the end
 };
 
+[[nodiscard]] TVariante EntregaVentana(const std::shared_ptr<TLibros>& libros,
+                                       const std::shared_ptr<TDocumentoServidor>& documento);
 [[nodiscard]] TVariante EntregaDocumento(const std::shared_ptr<TLibros>& libros,
                                          const std::shared_ptr<TDocumentoServidor>& documento);
 

@@ -269,6 +269,9 @@ TVariante EntregaVariables(const TLibrosComunes& libros, const TDocumentoComun& 
     return Entrega(std::move(variables));
 }
 
+}  // namespace
+
+// Without a window of its own on the screen it is one of the Words that do not tell it.
 TVariante EntregaVentana(const TLibrosComunes& libros, const TDocumentoComun& documento) {
     auto ventana = Nuevo(libros, documento);
     ventana->Anade(L"Selection", [=](const TArgumentos&) {
@@ -279,10 +282,10 @@ TVariante EntregaVentana(const TLibrosComunes& libros, const TDocumentoComun& do
         seleccion->Anade(L"End", [=](const TArgumentos&) { return TVariante(documento->Seleccion.Fin); });
         return Entrega(std::move(seleccion));
     });
+    if (libros->Ventana != 0)
+        ventana->Anade(L"Hwnd", [=](const TArgumentos&) { return TVariante(libros->Ventana); });
     return Entrega(std::move(ventana));
 }
-
-}  // namespace
 
 TVariante EntregaDocumento(const std::shared_ptr<TLibros>& libros,
                            const std::shared_ptr<TDocumentoServidor>& documento) {

@@ -24,6 +24,7 @@ struct TLibros {
     int EnLaLlamada = 0;  // the first that fails, 0 none
     int Veces = 0;        // how many fail from there on
     bool Interna = false;
+    int Ventana = 0;  // the number of the HWND of the one that is open; 0 none
 };
 
 // An error that Word tells with a number of its own.

@@ -2,6 +2,7 @@
 // that the adapter uses over a document in memory. Members that begin with "Prueba_" are the tests' own
 // orders.
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <utility>
@@ -81,6 +82,22 @@ void AnadeOrdenesDelDocumento(TObjetoServidor& aplicacion, const TEstadoComun& e
                      [=](const TArgumentos&) { return TVariante(estado->ConDocumento().Seleccion.Fin); });
 }
 
+// A window on the screen, as big as Word's.
+void AnadeOrdenesDeVentana(TObjetoServidor& aplicacion, const TEstadoComun& estado) {
+    aplicacion.Anade(L"Prueba_Ventana", [=](const TArgumentos&) {
+        const HWND ventana =
+            CreateWindowExW(0, L"STATIC", L"Word de prueba", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40, 40, 900,
+                            600, nullptr, nullptr, nullptr, nullptr);
+        estado->Libros->Ventana = static_cast<int>(reinterpret_cast<std::intptr_t>(ventana));
+        return TVariante(estado->Libros->Ventana);
+    });
+    aplicacion.Anade(L"Prueba_SinVentana", [=](const TArgumentos&) {
+        DestroyWindow(
+            reinterpret_cast<HWND>(static_cast<std::intptr_t>(std::exchange(estado->Libros->Ventana, 0))));
+        return TVariante();
+    });
+}
+
 void AnadeOrdenesDeFallo(TObjetoServidor& aplicacion, const TEstadoComun& estado) {
     aplicacion.Anade(L"Prueba_Falla", [=](const TArgumentos& argumentos) {
         TLibros& libros = *estado->Libros;
@@ -107,7 +124,12 @@ TPuntero<TObjetoServidor> Aplicacion() {
         (void)estado->ConDocumento();
         return EntregaDocumento(estado->Libros, estado->Activo);
     });
+    aplicacion->Anade(L"ActiveWindow", [=](const TArgumentos&) {
+        (void)estado->ConDocumento();
+        return EntregaVentana(estado->Libros, estado->Activo);
+    });
     AnadeOrdenesDelDocumento(*aplicacion, estado);
+    AnadeOrdenesDeVentana(*aplicacion, estado);
     AnadeOrdenesDeFallo(*aplicacion, estado);
     return aplicacion;
 }
