@@ -10,16 +10,10 @@
 #include <string>
 #include <vector>
 
+#include "pruebas/comun/Saneado.h"
 #include "pruebas/docx/ConstruyeDocx.h"
 
 namespace analizador::pruebas {
-
-// The sanitizers need memory and time of their own.
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool SANEADO = true;
-#else
-constexpr bool SANEADO = false;
-#endif
 
 struct TLimites {
     unsigned SegundosCpu = 60;        // processor time; over it the process is killed

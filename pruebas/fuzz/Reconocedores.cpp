@@ -163,14 +163,16 @@ void AnotaCircunstancias(TActa& acta, std::string_view texto) {
     acta.Anota(extranjeria.Paises);
 }
 
-// The parties that the text itself names, looked for in it.
+// The first parties that the text itself names, looked for in it.
 void AnotaIntervenciones(TActa& acta, std::string_view texto) {
+    constexpr std::size_t PRIMERAS = 4;
     ListaTextos<TROtorgante> lista;
+    const auto documentos = BuscaDocumentos(texto);
     for (const auto& persona : BuscaPersonas(texto)) {
+        if (lista.Cuenta() == PRIMERAS) break;
         auto otorgante = std::make_unique<TROtorgante>();
         otorgante->Nombre = persona.Valor.Nombre;
         otorgante->Apellidos = persona.Valor.Apellidos;
-        const auto documentos = BuscaDocumentos(texto);
         if (!documentos.empty()) otorgante->NumDocumento = documentos.front().Valor.Numero;
         std::string nombre = otorgante->NombreOtorgante();
         acta.Anota(BuscaIntervencionVenden(texto, nombre));
