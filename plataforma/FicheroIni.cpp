@@ -145,6 +145,10 @@ std::shared_ptr<const TFicheroIni> AbreFicheroIni(const std::filesystem::path& f
         marca == guardada.Lectura.Marca)
         return guardada.Contenido;
     TLecturaFichero lectura = LeeFichero(fichero);
+    const bool aMedias =
+        lectura.Estado == TEstadoLectura::Cambia ||
+        (lectura.Estado == TEstadoLectura::Entera && lectura.Bytes.empty() && lectura.Marca.Reciente);
+    if (aMedias && guardada.Contenido) return guardada.Contenido;
     if (!guardada.Contenido || guardada.Lectura.Bytes != lectura.Bytes)
         guardada.Contenido = std::make_shared<const TFicheroIni>(lectura.Bytes);
     guardada.Lectura = std::move(lectura);

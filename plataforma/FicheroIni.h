@@ -50,8 +50,9 @@ class TFicheroIni {
     [[nodiscard]] const Seccion* BuscaSeccion(std::string_view nombre) const;
 };
 
-// The file's content as it stands on disk now: a copy kept in memory as long as the file is surely the same.
-// A missing or unreadable file is empty. No file stays open. May be called from several threads.
+// The file's content as it stands on disk now: a copy kept in memory as long as the file is surely the same,
+// and while it is being written: when it never stands still or was emptied just now. A missing or unreadable
+// file is empty. No file stays open. May be called from several threads.
 [[nodiscard]] std::shared_ptr<const TFicheroIni> AbreFicheroIni(const std::filesystem::path& fichero);
 
 }  // namespace analizador

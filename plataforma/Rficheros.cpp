@@ -1,9 +1,11 @@
 #include "plataforma/Rficheros.h"
 
 #include <cerrno>
+#include <chrono>
 #include <fstream>
 #include <string>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 namespace analizador {
@@ -52,16 +54,30 @@ TLecturaFichero LeeUnaVez(const std::filesystem::path& fichero, const TMarcaFich
             std::move(bytes)};
 }
 
+// What a clock of coarse steps does not show: that a file whose mark is recent changed between two marks
+// alike, which its bytes tell when they are read again; and that one just emptied is about to be filled,
+// which is waited for a little.
+bool PuedeCambiarSinVerse(const std::filesystem::path& fichero, const TLecturaFichero& lectura, int intento) {
+    constexpr int INTENTOS_VACIO = 30;
+    if (lectura.Estado != TEstadoLectura::Entera || !lectura.Marca.Reciente) return false;
+    if (lectura.Bytes.empty()) return intento < INTENTOS_VACIO;
+    return LeeUnaVez(fichero, lectura.Marca).Bytes != lectura.Bytes;
+}
+
 }  // namespace
 
 TLecturaFichero LeeFichero(const std::filesystem::path& fichero, const TTomaMarca& marca) {
     constexpr int INTENTOS = 100;
+    constexpr int SIN_PAUSA = 10;
     TLecturaFichero lectura;
     TMarcaFichero antes = marca(fichero);
     for (int i = 0; i < INTENTOS; ++i) {
+        if (i >= SIN_PAUSA) std::this_thread::sleep_for(std::chrono::milliseconds(1));
         lectura = LeeUnaVez(fichero, antes);
         const TMarcaFichero despues = marca(fichero);
-        if (MismaMarca(antes, despues) && lectura.Estado != TEstadoLectura::Cambia) return lectura;
+        if (MismaMarca(antes, despues) && lectura.Estado != TEstadoLectura::Cambia &&
+            !PuedeCambiarSinVerse(fichero, lectura, i))
+            return lectura;
         antes = despues;
     }
     lectura.Estado = TEstadoLectura::Cambia;

@@ -70,8 +70,10 @@ struct TLecturaFichero {
 using TTomaMarca = std::function<TMarcaFichero(const std::filesystem::path&)>;
 
 // The file's whole content together with the mark that it had all along, never half of an old and half of a
-// new one: it is read again as long as its mark changes meanwhile, a hundred times at most. No failure
-// throws; the file is closed on return.
+// new one: it is read again as long as its mark changes meanwhile, or its bytes under a recent mark, a
+// hundred times at most (a tenth of a second). One that was emptied just now is given a moment to be filled.
+// What nothing shows is a writer that pauses between two halves. No failure throws; the file is closed on
+// return.
 [[nodiscard]] TLecturaFichero LeeFichero(const std::filesystem::path& fichero,
                                          const TTomaMarca& marca = MarcaDeFichero);
 

@@ -14,6 +14,8 @@ TTablaOrdenadaDbf::TTablaOrdenadaDbf(const std::filesystem::path& ruta, std::str
       indice_(std::move(indice)),
       fichero_(std::move(fichero)),
       abreEntera_(std::move(abreEntera)),
+      ruta_(ruta),
+      marca_(MarcaDeFichero(ruta)),
       entrada_(ruta, std::ios::binary),
       cabecera_(CABECERA_DBF, '\0') {
     entrada_.read(cabecera_.data(), static_cast<std::streamsize>(cabecera_.size()));
@@ -100,6 +102,13 @@ bool TTablaOrdenadaDbf::LeidosEnOrden(std::uint64_t primero, std::uint64_t fin,
            std::is_sorted(indice.Orden().begin(), indice.Orden().end());
 }
 
+// Whether the file is still the one whose header was read, and these records still its own: under a recent
+// mark they are read again, as they may have changed unseen.
+bool TTablaOrdenadaDbf::EsElMismo(std::uint64_t primero, const std::string& leidos) {
+    if (!MismaMarca(marca_, MarcaDeFichero(ruta_))) return false;
+    return !marca_.Reciente || Registros(primero, leidos.size() / longitudRegistro_) == leidos;
+}
+
 // Records that are not where they should be, and send the search the wrong way, have it end beside them: so
 // some more are read on both sides, to see that the order goes on beyond.
 bool TTablaOrdenadaDbf::HallaTramo(TClave desde, TClave hasta) {
@@ -111,7 +120,7 @@ bool TTablaOrdenadaDbf::HallaTramo(TClave desde, TClave hasta) {
     const std::uint64_t antes = primero - std::min(primero, VECINOS);
     const std::uint64_t despues = std::min(fin + VECINOS, registros_);
     const std::string leidos = Registros(antes, despues - antes);
-    if (!LeidosEnOrden(antes, despues, leidos)) return false;
+    if (!EsElMismo(antes, leidos) || !LeidosEnOrden(antes, despues, leidos)) return false;
     const std::string_view tramo = std::string_view(leidos).substr((primero - antes) * longitudRegistro_,
                                                                    (fin - primero) * longitudRegistro_);
     tramo_ = std::make_unique<TTablaDbase>(std::make_shared<const TTablaEnMemoria>(nombre_, Datos(tramo)),

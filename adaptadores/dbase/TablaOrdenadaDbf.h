@@ -14,12 +14,14 @@
 #include <vector>
 
 #include "adaptadores/dbase/TablaDbase.h"
+#include "plataforma/Rficheros.h"
 #include "plataforma/Ruttb.h"
 
 namespace analizador {
 
 // What does not begin with a range needs the other rows: the table is then read whole, once. So it is too
-// when a search meets rows that are not in the order promised. The file stays open as long as the table is.
+// when a search meets rows that are not in the order promised, or finds another table there by now. The file
+// stays open as long as the table is.
 class TTablaOrdenadaDbf : public TTabla {
   public:
     using TAbreEntera = std::function<std::unique_ptr<TTabla>()>;
@@ -55,10 +57,13 @@ class TTablaOrdenadaDbf : public TTabla {
                                              TClave clave);
     [[nodiscard]] bool Ordenada(TClave clave) const;
     [[nodiscard]] bool LeidosEnOrden(std::uint64_t primero, std::uint64_t fin, std::string_view tramo) const;
+    [[nodiscard]] bool EsElMismo(std::uint64_t primero, const std::string& leidos);
     [[nodiscard]] bool HallaTramo(TClave desde, TClave hasta);
 
     std::string nombre_, indice_, fichero_;
     TAbreEntera abreEntera_;
+    std::filesystem::path ruta_;
+    TMarcaFichero marca_;  // of before it was opened
     std::ifstream entrada_;
     std::string cabecera_;
     std::uint64_t registros_ = 0;

@@ -69,7 +69,7 @@ class Guardado : public testing::Test {
         const auto final = Rastrea(Banco, PROGRAMA_ANALIZA, {"--guarda", Fichero}, [&](std::uint64_t parada) {
             paradas.Todas = parada + 1;
             if (paradas.Primera == 0 && Banco.EnDocumentos().size() > 1) paradas.Primera = parada;
-            return TPaso::Sigue;
+            return SIGUE;
         });
         EXPECT_EQ(final.Codigo, 0);
         EXPECT_GT(paradas.Primera, 0U);
@@ -104,9 +104,8 @@ TEST_F(Guardado, MuertoEnCualquierLlamadaAlSistema) {
     for (auto mortal = DesdeParada(paradas, todas); mortal < paradas.Todas; ++mortal) {
         SCOPED_TRACE(mortal);
         PonViejo();
-        const auto final = Rastrea(Banco, PROGRAMA_ANALIZA, {"--guarda", Fichero}, [&](std::uint64_t parada) {
-            return parada == mortal ? TPaso::Mata : TPaso::Sigue;
-        });
+        const auto final = Rastrea(Banco, PROGRAMA_ANALIZA, {"--guarda", Fichero},
+                                   [&](std::uint64_t parada) { return parada == mortal ? SIGKILL : SIGUE; });
         EXPECT_TRUE(final.Senal == SIGKILL || final.Codigo == 0) << final.Senal;
         EsperaEntero();
     }
@@ -156,7 +155,7 @@ TEST_F(Guardado, NoQuitaElFicheroDeOtroQueEstaGuardando) {
                     throw std::runtime_error("not analysed");
             }));
         }
-        return TPaso::Sigue;
+        return SIGUE;
     });
     EXPECT_GT(vecesVisto, 3);
     EXPECT_EQ(final.Codigo, 0) << final.Errores;
@@ -178,11 +177,11 @@ TEST_F(Guardado, ConElDocumentoReemplazadoMientrasTanto) {
         const auto otro = Banco.Documento("otro");
         bool yaGuardado = false;
         const auto final = Rastrea(Banco, PROGRAMA_ANALIZA, {"--guarda", Fichero}, [&](std::uint64_t parada) {
-            if (parada != cuando) return TPaso::Sigue;
+            if (parada != cuando) return SIGUE;
             yaGuardado = LeeBytes(Fichero) == Nuevo;
             EscribeFichero(otro, ajeno);
             fs::rename(otro, Fichero);
-            return TPaso::Sigue;
+            return SIGUE;
         });
         const auto bytes = LeeBytes(Fichero);
         if (final.Codigo != 0) {
@@ -209,7 +208,7 @@ TEST_F(Guardado, ConLaCarpetaQuitadaMientrasTanto) {
         PonViejo();
         const auto final = Rastrea(Banco, PROGRAMA_ANALIZA, {"--guarda", Fichero}, [&](std::uint64_t parada) {
             if (parada == cuando) fs::rename(Banco.Documentos(), otra);
-            return TPaso::Sigue;
+            return SIGUE;
         });
         rehusados += final.Codigo != 0 ? 1 : 0;
         if (final.Codigo != 0) {

@@ -61,7 +61,8 @@ std::string NombreHostil(TAzar& azar) {
         "word//document.xml",
         "word/@@.xml",
         "con\nsalto.xml",
-        "\x1B[31mrojo.xml",
+        "\xC2\x9B"
+        "31mrojo.xml",
         "~$escritura.docx",
         ".~docx-000000000000.tmp",
         Repite("n", azar.Magnitud(60'000)),

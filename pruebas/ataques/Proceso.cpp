@@ -60,7 +60,7 @@ std::vector<std::string> TBanco::EnTemporal() const {
 
 pid_t TBanco::Lanza(const fs::path& programa, const std::vector<std::string>& argumentos,
                     const TLimites& limites, const std::function<void()>& antes) const {
-    constexpr unsigned DEMASIADO = 120;
+    constexpr unsigned DEMASIADO = 600;
     std::vector<std::string> orden = {programa.string()};
     orden.insert(orden.end(), argumentos.begin(), argumentos.end());
     const auto temporal = Temporal().string();

@@ -46,7 +46,7 @@ class TBanco {
     [[nodiscard]] std::vector<std::string> EnDocumentos() const;
     [[nodiscard]] std::vector<std::string> EnTemporal() const;
 
-    // Runs `programa` with those arguments to its end. A process that sleeps for two minutes is killed.
+    // Runs `programa` with those arguments to its end. One that takes ten minutes is killed.
     [[nodiscard]] TFinal Corre(const std::filesystem::path& programa,
                                const std::vector<std::string>& argumentos,
                                const TLimites& limites = {}) const;

@@ -40,8 +40,8 @@ TFinal Rastrea(const TBanco& banco, const std::filesystem::path& programa,
         if (hilo < 0) throw std::runtime_error("lost a process");
         if (hilo == proceso && !WIFSTOPPED(estado)) return banco.Recoge(estado);
         if (!WIFSTOPPED(estado)) continue;  // one of its threads has ended
-        if (WSTOPSIG(estado) == PARADA_DE_LLAMADA && alParar(parada++) == TPaso::Mata)
-            ::kill(proceso, SIGKILL);
+        if (WSTOPSIG(estado) == PARADA_DE_LLAMADA)
+            if (const int senal = alParar(parada++); senal != SIGUE) ::kill(proceso, senal);
         ::ptrace(PTRACE_SYSCALL, hilo, nullptr, SenalPropia(estado));
     }
 }
@@ -49,7 +49,7 @@ TFinal Rastrea(const TBanco& banco, const std::filesystem::path& programa,
 bool SePuedeRastrear() {
     const TBanco banco;
     try {
-        return Rastrea(banco, "/bin/true", {}, [](std::uint64_t) { return TPaso::Sigue; }).Codigo == 0;
+        return Rastrea(banco, "/bin/true", {}, [](std::uint64_t) { return SIGUE; }).Codigo == 0;
     } catch (const std::runtime_error&) {
         return false;
     }

@@ -14,12 +14,13 @@
 
 namespace analizador::pruebas {
 
-enum class TPaso { Sigue, Mata };
+constexpr int SIGUE = 0;
 
-// Called at stop number `parada` (from 0), when a call is about to begin or has just ended.
-using TAlParar = std::function<TPaso(std::uint64_t parada)>;
+// Called at stop number `parada` (from 0), when a call is about to begin or has just ended: the signal to
+// send to the process, or SIGUE.
+using TAlParar = std::function<int(std::uint64_t parada)>;
 
-// Runs `programa` to its end or until `alParar` has it killed. Throws std::runtime_error where the system
+// Runs `programa` to its end or until a signal ends it. Throws std::runtime_error where the system
 // lets no process be traced.
 [[nodiscard]] TFinal Rastrea(const TBanco& banco, const std::filesystem::path& programa,
                              const std::vector<std::string>& argumentos, const TAlParar& alParar);

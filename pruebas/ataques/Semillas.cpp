@@ -1,6 +1,7 @@
 #include "pruebas/ataques/Semillas.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 
 namespace analizador::pruebas {
@@ -83,16 +84,25 @@ TPartes DocumentoTrabajado(const TPartes& ejemplo) {
     return partes;
 }
 
+std::vector<std::filesystem::path> DocumentosDe(const std::filesystem::path& carpeta) {
+    std::vector<std::filesystem::path> documentos;
+    for (const auto& entrada : std::filesystem::directory_iterator(carpeta)) {
+        const auto extension = entrada.path().extension();
+        if (extension == ".docx" || extension == ".docm" || extension == ".dotx" || extension == ".dotm")
+            documentos.push_back(entrada.path());
+    }
+    std::ranges::sort(documentos);
+    return documentos;
+}
+
 std::vector<std::pair<std::string, TPartes>> LeeSemillas() {
-    std::vector<std::filesystem::path> ejemplos;
-    for (const auto& entrada : std::filesystem::directory_iterator(CARPETA_EJEMPLOS))
-        if (entrada.path().extension() == ".docx") ejemplos.push_back(entrada.path());
-    std::ranges::sort(ejemplos);
     std::vector<std::pair<std::string, TPartes>> semillas;
-    for (const auto& ejemplo : ejemplos) {
-        semillas.emplace_back(ejemplo.stem().string(), Descomprime(ejemplo));
-        semillas.emplace_back(ejemplo.stem().string() + ", trabajada",
-                              DocumentoTrabajado(semillas.back().second));
+    const char* otras = std::getenv("ATAQUES_SEMILLAS");  // NOLINT(concurrency-mt-unsafe): nobody sets it
+    for (const auto& documento : DocumentosDe(otras == nullptr ? CARPETA_EJEMPLOS : otras)) {
+        const auto partes = Descomprime(documento);
+        semillas.emplace_back(documento.stem().string(), partes);
+        if (otras == nullptr)
+            semillas.emplace_back(documento.stem().string() + ", trabajada", DocumentoTrabajado(partes));
     }
     return semillas;
 }

@@ -10,8 +10,9 @@
 
 namespace analizador::pruebas {
 
-// The example deeds, and one of them as a word processor keeps it after years of work: text in pieces,
-// revisions, fields, tables, text boxes, notes, and all the parts that come with them.
+// The example deeds, and each of them as a word processor keeps it after years of work: text in pieces,
+// revisions, fields, tables, text boxes, notes, and all the parts that come with them. Instead of them the
+// documents of the folder that the environment's ATAQUES_SEMILLAS names.
 [[nodiscard]] const std::vector<std::pair<std::string, TPartes>>& Semillas();
 
 }  // namespace analizador::pruebas

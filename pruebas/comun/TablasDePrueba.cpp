@@ -33,6 +33,7 @@ class TTablaDePrueba : public TTabla {
     void Primero() override { posicion_ = 0; }
     void Siguiente() override { posicion_ = std::min(posicion_ + 1, visibles_.size()); }
     [[nodiscard]] bool Fin() const override { return posicion_ == visibles_.size(); }
+    [[nodiscard]] std::shared_ptr<const void> Contenido() const override { return datos_; }
     [[nodiscard]] int CuentaFilas() override { return static_cast<int>(visibles_.size()); }
 
     [[nodiscard]] std::string Texto(std::string_view campo) const override {

@@ -98,6 +98,17 @@ TEST(Proveedor, LaTablaAbiertaSigueViendoLoQueSeAbrio) {
     EXPECT_FALSE(Esta(proveedor, "ANA"));
 }
 
+TEST(Tablas, ElContenidoEsElMismoParaLasMismasFilas) {
+    const std::string bytes = TFichero{.Campos = {{"NOMBRE", 'C', 20}}, .Filas = {{"ANA"}}}.Bytes();
+    const auto enMemoria = std::make_shared<const TTablaEnMemoria>("PILA", bytes, "PILA.DBF");
+    const auto igual = std::make_shared<const TTablaEnMemoria>("PILA", bytes, "PILA.DBF");
+    const TTablaDbase una(enMemoria, "");
+    const TTablaDbase otra(enMemoria, "NOMBRE");
+    ASSERT_NE(una.Contenido(), nullptr);
+    EXPECT_EQ(una.Contenido(), otra.Contenido());
+    EXPECT_NE(una.Contenido(), TTablaDbase(igual, "").Contenido());
+}
+
 TEST(Proveedor, NoDejaNingunFicheroAbierto) {
     const TCarpetaPrueba carpeta;
     carpeta.Pon("PILA.DBF", Nombres({"ANA"}));

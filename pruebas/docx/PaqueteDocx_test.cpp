@@ -198,6 +198,35 @@ TEST_F(PaqueteDocx, RehusaLoQueSeExpandeSinMedida) {
     Rehusa(bytes, "la parte «word/document.xml» se expande de forma desmesurada");
 }
 
+std::string Veces(std::string_view trozo, std::size_t veces) {
+    std::string todo;
+    for (std::size_t i = 0; i < veces; ++i) todo += trozo;
+    return todo;
+}
+
+TEST_F(PaqueteDocx, RehusaElTextoQueNoEsDeUnaEscritura) {
+    const auto conTexto = [](std::size_t letras) {
+        return Comprime(PartesDocumento(
+            DocumentoXml("<w:p><w:r><w:t>" + std::string(letras, 'a') + "</w:t></w:r></w:p>")));
+    };
+    EXPECT_EQ(Rechazo(conTexto(5'999'999)), "") << "with its paragraph's end, the longest one";
+    Rehusa(conTexto(6'000'000), "su texto es demasiado largo");
+
+    const auto conParrafos = [](std::size_t parrafos) {
+        return Comprime(PartesDocumento(DocumentoXml(Veces("<w:p/>", parrafos))));
+    };
+    EXPECT_EQ(Rechazo(conParrafos(300'000)), "");
+    Rehusa(conParrafos(300'001), "tiene demasiados párrafos");
+}
+
+TEST_F(PaqueteDocx, RehusaLoQueNoCabeEnLaMemoriaQueSePermite) {
+    constexpr auto CAUSA = "la parte «word/document.xml» tiene demasiados elementos";
+    EXPECT_EQ(Rechazo(Comprime(PartesDocumento(DocumentoXml(Veces("<a/>", 1'000'000))))), "");
+    Rehusa(Comprime(PartesDocumento(DocumentoXml(Veces("<a/>", 2'500'000)))), CAUSA);
+    Rehusa(Comprime(PartesDocumento(DocumentoXml("<a" + Veces(" b=''", 9'000'000) + "/>"), "", "")),
+           "desmesurada");
+}
+
 // The central directory's field at `desplazamiento` of the entry of that name.
 std::size_t EnDirectorio(const std::string& bytes, const std::string& nombre, std::size_t desplazamiento) {
     auto posicion = bytes.find("PK\x01\x02");

@@ -189,6 +189,31 @@ TEST_F(FicherosPrueba, LoQueNuncaSeEstaQuietoSeDice) {
     EXPECT_EQ(LeeFichero(fichero, masCorto).Estado, TEstadoLectura::Cambia);
 }
 
+// As a writer does to a file of its length within one step of the clock: no mark tells.
+TEST_F(FicherosPrueba, LoQueCambiaBajoUnaMarcaRecienteSeLeeOtraVez) {
+    const auto fichero = Carpeta() / "a";
+    Escribe(fichero, "uno");
+    const TMarcaFichero marca = MarcaDeFichero(fichero);
+    ASSERT_TRUE(marca.Reciente);
+    int veces = 0;
+    const auto siempreLaMisma = [&](const fs::path& ruta) {
+        if (++veces == 2) Escribe(ruta, "dos");
+        return marca;
+    };
+    EXPECT_EQ(LeeFichero(fichero, siempreLaMisma).Bytes, "dos");
+}
+
+TEST_F(FicherosPrueba, AlQueSeVaciaSeLeEsperaUnPoco) {
+    const auto fichero = Carpeta() / "a";
+    Escribe(fichero, "");
+    int veces = 0;
+    const auto seLlena = [&](const fs::path& ruta) {
+        if (++veces == 5) Escribe(ruta, "uno");
+        return MarcaDeFichero(ruta);
+    };
+    EXPECT_EQ(LeeFichero(fichero, seLlena).Bytes, "uno");
+}
+
 TEST_F(FicherosPrueba, LoQueDesapareceMientrasNoSeAbre) {
     const auto fichero = Carpeta() / "a";
     Escribe(fichero, "uno");

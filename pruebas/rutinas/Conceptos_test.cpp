@@ -91,6 +91,18 @@ TEST_F(Conceptos, LoQueLaListaYaTieneNoSeRepite) {
     EXPECT_EQ(lista.Cuenta(), 2U);
 }
 
+TEST_F(Conceptos, UnaTablaCambiadaCuentaDesdeElParrafoSiguiente) {
+    ListaTextos<TRConcepto> antes;
+    (void)BuscaConceptos("HIPOTECA COMPRAVENTA", antes);
+    ASSERT_EQ(antes.Cuenta(), 2U);
+    tablas_.Pon("TIPOS.DBF",
+                {{"NOMBRE", "NUMEROTIPO", "COD_OFICIA", "PRESTAMO"}, {{"HIPOTECA", "2", "0202", "F"}}});
+    ListaTextos<TRConcepto> despues;
+    (void)BuscaConceptos("HIPOTECA COMPRAVENTA", despues);
+    ASSERT_EQ(despues.Cuenta(), 1U);
+    EXPECT_EQ(despues[0].Texto, "HIPOTECA");
+}
+
 TEST_F(Conceptos, UnaTablaQueFaltaEsUnError) {
     tablas_.Quita("TIPOS.DBF");
     ListaTextos<TRConcepto> lista;
