@@ -71,6 +71,10 @@ class TTabla {
     // Keeps only the rows whose whole-number field fulfils the condition "FIELD=n" or "FIELD<>n"; "" ends the
     // filter. Goes to the first row. Throws ErrorTabla when the condition is of another form.
     virtual void Filtra(std::string_view condicion) = 0;
+
+    // What stands for the rows that this table was opened with: as long as it is held, every table that gives
+    // the same one has the same rows in the same stored order. Null when nothing is known.
+    [[nodiscard]] virtual std::shared_ptr<const void> Contenido() const { return nullptr; }
 };
 
 // Who opens tables. Called from every thread that analyses.

@@ -1,5 +1,8 @@
 #include <algorithm>
 #include <map>
+#include <memory>
+#include <optional>
+#include <utility>
 
 #include "plataforma/Confnvx.h"
 #include "plataforma/Rut.h"
@@ -17,12 +20,11 @@ constexpr std::size_t LETRAS_MINIMAS = 4;  // shorter words are articles and pre
 // that has it.
 class TTiposPorPalabra {
   public:
-    TTiposPorPalabra() {
-        const auto tabla = CreaTabla(Config().GetAliasNorvex(), "TIPOS.DBF", "", true, false);
-        for (; !tabla->Fin(); tabla->Siguiente()) {
-            const std::string nombre = tabla->Texto("NOMBRE");
+    explicit TTiposPorPalabra(TTabla& tabla) {
+        for (; !tabla.Fin(); tabla.Siguiente()) {
+            const std::string nombre = tabla.Texto("NOMBRE");
             tipos_.push_back(
-                {tabla->Entero("NUMEROTIPO"), nombre, tabla->Texto("COD_OFICIA"), tabla->Logico("PRESTAMO")});
+                {tabla.Entero("NUMEROTIPO"), nombre, tabla.Texto("COD_OFICIA"), tabla.Logico("PRESTAMO")});
             for (TPalabra p = PrimeraPalabra(nombre); !p.Palabra.empty(); p = PrimeraPalabra(p.Resto))
                 primero_.emplace(Pliega(p.Palabra), tipos_.size() - 1);
         }
@@ -38,10 +40,24 @@ class TTiposPorPalabra {
     std::map<std::string, std::size_t, std::less<>> primero_;
 };
 
+// The deed types as the table has them now. They take far longer to sort out than a paragraph to search, and
+// every paragraph of a header asks for them: so each thread keeps those of the rows that it saw last.
+const TTiposPorPalabra& Tipos() {
+    thread_local std::shared_ptr<const void> contenido;
+    thread_local std::optional<TTiposPorPalabra> tipos;
+    const auto tabla = CreaTabla(Config().GetAliasNorvex(), "TIPOS.DBF", "", true, false);
+    auto actual = tabla->Contenido();
+    if (!tipos || actual == nullptr || actual != contenido) {
+        tipos.emplace(*tabla);
+        contenido = std::move(actual);
+    }
+    return *tipos;
+}
+
 }  // namespace
 
 std::vector<Tramo> BuscaConceptos(std::string_view parrafo, ListaTextos<TRConcepto>& lista) {
-    const TTiposPorPalabra tipos;
+    const TTiposPorPalabra& tipos = Tipos();
     const TTextoSin limpio(parrafo, ".\t\r");
     std::string preparado = Pliega(limpio.Texto());
     std::replace(preparado.begin(), preparado.end(), '-', ' ');

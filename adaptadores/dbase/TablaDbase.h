@@ -53,6 +53,7 @@ class TTablaDbase : public TTabla {
     bool Rango(TClave desde, TClave hasta) override;
     void CancelaRango() override;
     void Filtra(std::string_view condicion) override;
+    [[nodiscard]] std::shared_ptr<const void> Contenido() const override { return tabla_; }
 
   private:
     struct TFiltro {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <new>
 
 #include "adaptadores/docx/EspaciosXml.h"
 #include "adaptadores/docx/FalloDocx.h"
@@ -10,14 +11,27 @@ namespace analizador {
 
 namespace {
 
-// A node takes some sixteen times the few bytes it is written with, so their number is bounded too.
-constexpr std::ptrdiff_t ETIQUETAS_MAXIMAS = 24'000'000;
+// What a part takes in memory once read: its text twice, and an element or an attribute, however short they
+// are written, so many bytes with what the reader notes down of them.
+constexpr std::size_t MEMORIA_MAXIMA = 320ULL * 1024 * 1024;
+constexpr std::size_t POR_ELEMENTO = 136;
+constexpr std::size_t POR_ATRIBUTO = 40;
 
 constexpr unsigned LECTURA = pugi::parse_escapes | pugi::parse_eol | pugi::parse_ws_pcdata |
                              pugi::parse_cdata | pugi::parse_wconv_attribute | pugi::parse_doctype;
 
 [[noreturn]] void Rehusa(const std::string& parte, std::string_view causa) {
     throw FalloDocx("la parte «" + parte + "» " + std::string(causa));
+}
+
+// No less than it will take: what only looks like an element or an attribute counts too.
+std::size_t MemoriaPrevista(std::string_view xml) {
+    std::size_t memoria = 2 * xml.size();
+    for (std::size_t i = 0; i + 1 < xml.size(); ++i) {
+        if (xml[i] == '<' && xml[i + 1] != '/') memoria += POR_ELEMENTO;
+        if (xml[i] == '=' && (xml[i + 1] == '"' || xml[i + 1] == '\'')) memoria += POR_ATRIBUTO;
+    }
+    return memoria;
 }
 
 bool DeclaraTipo(const pugi::xml_document& documento) {
@@ -33,9 +47,10 @@ std::size_t ExigePosicion(std::ptrdiff_t posicion) {
 }  // namespace
 
 TArbolXml::TArbolXml(std::string_view xml, const std::string& parte) : Memoria(xml.begin(), xml.end()) {
-    if (std::ranges::count(xml, '<') > ETIQUETAS_MAXIMAS) Rehusa(parte, "tiene demasiados elementos");
+    if (MemoriaPrevista(xml) > MEMORIA_MAXIMA) Rehusa(parte, "tiene demasiados elementos");
     const auto resultado =
         Documento.load_buffer_inplace(Memoria.data(), Memoria.size(), LECTURA, pugi::encoding_utf8);
+    if (resultado.status == pugi::status_out_of_memory) throw std::bad_alloc();
     if (!resultado) Rehusa(parte, "no es XML bien formado");
     if (DeclaraTipo(Documento)) Rehusa(parte, "declara un tipo de documento (DTD), que no se admite");
     try {

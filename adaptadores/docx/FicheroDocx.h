@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "plataforma/Rficheros.h"
@@ -37,6 +38,9 @@ class TFicheroDocx {
     // a UTF-16 unit, its bookmarks in the order of their starts (the hidden ones, whose name begins with
     // "_", included) and the document variables. Lives as long as this object, until the next Guarda.
     [[nodiscard]] const TContenidoDocumento& Contenido() const { return Leido; }
+
+    // The file as it was read. Lives as long as this object, until the next Guarda.
+    [[nodiscard]] std::string_view BytesLeidos() const { return Bytes; }
 
     // Writes the document with `marcadores` added, or replaced where the document has one of that name in any
     // case (of two equal names in `marcadores` the last counts). All else stays: the other parts byte by

@@ -1,5 +1,7 @@
 #include "adaptadores/docx/LecturaDocx.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include "adaptadores/docx/EstilosDocx.h"
@@ -37,6 +39,17 @@ std::vector<TSuceso> RecorrePrincipal(const TArbolXml& arbol, const TEstilosDocx
     return RecorreDocumento(raiz, estilos);
 }
 
+// A longer text, or one in more paragraphs, is none that anyone signs; its analysis would take too long.
+TComposicion ExigeMesura(TComposicion composicion) {
+    constexpr std::size_t TEXTO_MAXIMO = 6'000'000;
+    constexpr std::ptrdiff_t PARRAFOS_MAXIMOS = 300'000;
+    if (composicion.Texto.size() > TEXTO_MAXIMO)
+        throw FalloDocx("su texto es demasiado largo para ser una escritura");
+    if (std::ranges::count(composicion.Texto, u'\r') > PARRAFOS_MAXIMOS)
+        throw FalloDocx("tiene demasiados párrafos para ser una escritura");
+    return composicion;
+}
+
 }  // namespace
 
 TLecturaDocx::TLecturaDocx(std::string_view bytes)
@@ -45,7 +58,7 @@ TLecturaDocx::TLecturaDocx(std::string_view bytes)
       Principal(LeeXml(Paquete, Partes.Principal)),
       Arbol(Principal.Utf8, Partes.Principal),
       Sucesos(RecorrePrincipal(Arbol, LeeEstilos(Paquete, Partes))),
-      Composicion(Compone(Sucesos)) {}
+      Composicion(ExigeMesura(Compone(Sucesos))) {}
 
 TContenidoDocumento TLecturaDocx::Contenido() {
     return {AnsiDeUtf16(Composicion.Texto), Composicion.Marcadores, LeeVariables(Paquete, Partes)};

@@ -13,7 +13,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::uintmax_t TAMANO_MAXIMO = 1024ULL * 1024 * 1024;
+constexpr std::uintmax_t TAMANO_MAXIMO = 160ULL * 1024 * 1024;
 
 // The container of the old binary documents and of every encrypted one.
 constexpr std::string_view FIRMA_OLE = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1"sv;

@@ -12,7 +12,7 @@ namespace analizador {
 
 namespace {
 
-constexpr std::uint64_t INFLADO_MAXIMO = 512ULL * 1024 * 1024;
+constexpr std::uint64_t INFLADO_MAXIMO = 96ULL * 1024 * 1024;
 // Beyond this size a part may not inflate to more than so many times its compressed size: text hardly
 // reaches 30.
 constexpr std::uint64_t INFLADO_SIN_RECELO = 10ULL * 1024 * 1024;

@@ -1,7 +1,10 @@
 #include "programas/analiza/AnalisisFichero.h"
 
+#include <mutex>
+#include <set>
 #include <vector>
 
+#include "adaptadores/docx/FicheroProvisional.h"
 #include "plataforma/Rficheros.h"
 
 namespace analizador {
@@ -18,10 +21,21 @@ std::vector<TMarcador> MarcadoresDeSecciones(const TClassAnalizadorAbierto& sesi
     return marcadores;
 }
 
+// What a run that was killed while it saved left beside its document goes with the next one that is given a
+// document of that folder, whatever it does with it. Once for each folder.
+void LimpiaCarpetaDe(const std::filesystem::path& fichero) {
+    static std::mutex cerrojo;
+    static std::set<std::filesystem::path> limpias;
+    const auto carpeta = fichero.has_parent_path() ? fichero.parent_path() : std::filesystem::path(".");
+    const std::lock_guard guarda(cerrojo);
+    if (limpias.insert(carpeta).second) LimpiaProvisionales(carpeta);
+}
+
 }  // namespace
 
 TAnalisisFichero::TAnalisisFichero(const std::filesystem::path& fichero, const TOpcionesAnalisis& opciones) {
     Intenta(Utf8DeRuta(fichero), [&] {
+        LimpiaCarpetaDe(fichero);
         FDocx.emplace(fichero);
         Analiza(FDocx->Contenido(), opciones.Revisa);
         if (opciones.Salida && (Sesion().Aceptado || !opciones.Revisa))

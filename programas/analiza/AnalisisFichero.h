@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string_view>
 
 #include "adaptadores/docx/FicheroDocx.h"
 #include "programas/analiza/AnalisisEscritura.h"
@@ -20,6 +21,9 @@ class TAnalisisFichero : public TAnalisisEscritura {
   public:
     // Never throws for what is wrong with the file or the tables: see Error().
     TAnalisisFichero(const std::filesystem::path& fichero, const TOpcionesAnalisis& opciones);
+
+    // The file as it was read. Only without an error; until the next Guarda.
+    [[nodiscard]] std::string_view Bytes() const { return FDocx->BytesLeidos(); }
 
     // Saves the file that was analysed with the bookmarks of its sections, as TFicheroDocx::Guarda. Only
     // without an error. Throws ErrorDocumento.

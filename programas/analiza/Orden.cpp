@@ -25,6 +25,12 @@ std::string CausaDeMalUso(const CLI::App& orden, const CLI::ParseError& error, c
 
 }  // namespace
 
+TCodigoSalida PeorDe(TCodigoSalida uno, TCodigoSalida otro) {
+    for (const auto peor : {ALGUNO_FALLO, REVISION_CANCELADA})
+        if (uno == peor || otro == peor) return peor;
+    return TODO_BIEN;
+}
+
 void PreparaOrden(CLI::App& orden) {
     orden.get_formatter()->label("Usage", "Uso");
     orden.get_formatter()->label("OPTIONS", "opciones");

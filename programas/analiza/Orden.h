@@ -11,6 +11,8 @@ namespace analizador {
 // The worst of several files counts, in this order: a failure, a review that the user cancelled, all well.
 enum TCodigoSalida { TODO_BIEN = 0, ALGUNO_FALLO = 1, MAL_USO = 2, REVISION_CANCELADA = 3 };
 
+[[nodiscard]] TCodigoSalida PeorDe(TCodigoSalida uno, TCodigoSalida otro);
+
 // The help in Castilian and the options that every order takes alike.
 void PreparaOrden(CLI::App& orden);
 

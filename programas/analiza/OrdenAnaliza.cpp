@@ -1,42 +1,30 @@
 #include "programas/analiza/OrdenAnaliza.h"
 
-#include <filesystem>
-#include <optional>
+#include <algorithm>
+#include <cstdio>
 #include <string>
-#include <string_view>
-#include <vector>
 
-#include "plataforma/Ansi.h"
-#include "plataforma/Ruttb.h"
-#include "programas/analiza/AnalisisFichero.h"
 #include "programas/analiza/Entorno.h"
+#include "programas/analiza/ListaEscrituras.h"
+#include "programas/analiza/OpcionesAnaliza.h"
 #include "programas/analiza/Orden.h"
-#include "programas/analiza/SalidaJson.h"
-#include "programas/analiza/SalidaTexto.h"
+#include "programas/analiza/OrdenLote.h"
+#include "programas/analiza/ProcesaEscritura.h"
 
 namespace analizador {
 
 namespace {
 
-namespace fs = std::filesystem;
+constexpr unsigned HILOS_MAXIMOS = 1024;
 
-struct TOpciones {
-    std::vector<std::string> Ficheros;
-    std::optional<fs::path> Config;
-    std::optional<fs::path> Tablas;
-    std::optional<fs::path> Salida;
-    bool Json = false;
-    bool Origen = false;
-    bool Guarda = false;
-    bool Forzar = false;
-    bool Revisa = false;
-};
-
-void Declara(CLI::App& aplicacion, TOpciones& opciones) {
+void Declara(CLI::App& aplicacion, TOpcionesAnaliza& opciones) {
     PreparaOrden(aplicacion);
     aplicacion.set_version_flag("--version", "analiza " ANALIZADOR_VERSION, "Muestra la versión y termina");
     aplicacion
-        .add_option("FICHERO", opciones.Ficheros, "Escrituras que se analizan (.docx, .docm, .dotx, .dotm)")
+        .add_option(
+            "FICHERO", opciones.Ficheros,
+            "Escrituras que se analizan (.docx, .docm, .dotx, .dotm). Una carpeta vale por sus escrituras, "
+            "y - por los nombres, uno por línea, que llegan por la entrada")
         ->required()
         ->multi_option_policy(CLI::MultiOptionPolicy::Throw)
         ->option_text("... (obligatorio)");
@@ -57,6 +45,20 @@ void Declara(CLI::App& aplicacion, TOpciones& opciones) {
                         "Guarda aunque otro programa lo tenga abierto o esté firmado");
     aplicacion.add_flag("--revisa", opciones.Revisa,
                         "Muestra lo encontrado en ventanas, para corregirlo, y escribe lo elegido");
+    aplicacion
+        .add_option("--hilos", opciones.Hilos,
+                    "Cuántas escrituras se analizan a la vez (si no se dice, tantas "
+                    "como núcleos tiene el ordenador)")
+        ->check(CLI::Range(1U, HILOS_MAXIMOS))
+        ->option_text("N");
+    aplicacion
+        .add_option("--resultados", opciones.Resultados,
+                    "Con --json: escribe las líneas en un fichero, del que se puede continuar")
+        ->option_text("FICHERO");
+    aplicacion.add_flag("--continua", opciones.Continua,
+                        "Con --resultados: sigue donde se interrumpió, sin repetir lo que ya está");
+    aplicacion.add_flag("-0,--nulos", opciones.Nulos,
+                        "Los nombres que llegan por la entrada acaban en un byte nulo y no en fin de línea");
     aplicacion.footer(
         "Para quien cuida los vocabularios (cada una tiene su --ayuda):\n"
         "  analiza vocabulario   Revisa los vocabularios, o explica qué encuentran en un párrafo\n"
@@ -64,62 +66,59 @@ void Declara(CLI::App& aplicacion, TOpciones& opciones) {
         "Una escritura que se llame así se analiza con su carpeta: ./vocabulario");
 }
 
-// What is written of an analysis without an error. Throws ErrorTabla.
-std::string Texto(const TAnalisisFichero& analisis, const TOpciones& opciones) {
-    const std::string texto =
-        opciones.Revisa ? EleccionTexto(analisis.Sesion()) : InformeTexto(analisis.Sesion());
-    return opciones.Ficheros.size() > 1 ? texto + "\n" : texto;
+// What does not go together; empty when all does.
+std::string Incompatible(const TOpcionesAnaliza& opciones, bool varias) {
+    const bool hayLista = std::ranges::find(opciones.Ficheros, "-") != opciones.Ficheros.end();
+    struct TRegla {
+        bool Falta;
+        const char* Causa;
+    };
+    for (const auto& [falta, causa] : {
+             TRegla{opciones.Salida && opciones.Guarda, "--guarda y --salida no van juntas"},
+             TRegla{opciones.Origen && !opciones.Json, "--origen solo va con --json"},
+             TRegla{opciones.Salida && varias, "con --salida se analiza un solo fichero"},
+             TRegla{opciones.Resultados && !opciones.Json, "--resultados solo va con --json"},
+             TRegla{opciones.Continua && !opciones.Resultados, "--continua solo va con --resultados"},
+             TRegla{opciones.Nulos && !hayLista, "-0 solo va con - (los nombres llegan por la entrada)"},
+             TRegla{opciones.Revisa && opciones.Resultados, "--revisa y --resultados no van juntas"},
+             TRegla{opciones.Revisa && opciones.Hilos, "--revisa va de una en una: sobra --hilos"},
+             TRegla{opciones.Guarda && opciones.Hilos, "--guarda va de una en una: sobra --hilos"},
+         })
+        if (falta) return causa;
+    return {};
 }
 
-// Analyses a file, lets the user review it where that was asked for, and writes what came of it.
-TCodigoSalida Procesa(const fs::path& fichero, const TOpciones& opciones) {
-    TOpcionesAnalisis pedido{opciones.Salida, opciones.Forzar, opciones.Revisa};
-    if (opciones.Guarda) pedido.Salida = fichero;
-    const TAnalisisFichero analisis(fichero, pedido);
-    if (!analisis.Error().empty()) Avisa(analisis.Error());
-    if (opciones.Json)
-        Escribe(LineaJson(fichero, analisis, {.Origen = opciones.Origen, .Revisado = opciones.Revisa}) +
-                "\n");
-    if (!analisis.Error().empty()) return ALGUNO_FALLO;
-    if (opciones.Revisa && !analisis.Sesion().Aceptado) {
-        Avisa(fichero.string() + ": revisión cancelada");
-        return REVISION_CANCELADA;
-    }
-    if (opciones.Json) return TODO_BIEN;
-    if (opciones.Ficheros.size() > 1) Escribe("==== " + fichero.string() + "\n");
-    try {
-        Escribe(Texto(analisis, opciones));
-    } catch (const ErrorTabla& error) {
-        Avisa(fichero.string() + ": " + Utf8DeAnsi(error.what()));
-        return ALGUNO_FALLO;
-    }
-    return TODO_BIEN;
-}
-
-TCodigoSalida PeorDe(TCodigoSalida uno, TCodigoSalida otro) {
-    for (const auto peor : {ALGUNO_FALLO, REVISION_CANCELADA})
-        if (uno == peor || otro == peor) return peor;
-    return TODO_BIEN;
-}
-
-int Ejecuta(const TOpciones& opciones, const TCreaVentanas& creaVentanas) {
-    if (opciones.Salida && opciones.Guarda) return MalUso("--guarda y --salida no van juntas");
-    if (opciones.Origen && !opciones.Json) return MalUso("--origen solo va con --json");
-    if (opciones.Salida && opciones.Ficheros.size() > 1)
-        return MalUso("con --salida se analiza un solo fichero");
+// One deed after another, with what the windows or the terminal show of each.
+int AnalizaDeUnaEnUna(TListaEscrituras& lista, const TOpcionesAnaliza& opciones, bool varias,
+                      const TCreaVentanas& creaVentanas) {
     const TEntorno entorno(opciones.Config, opciones.Tablas);
     const auto ventanas = opciones.Revisa ? creaVentanas() : nullptr;
     if (opciones.Revisa && ventanas == nullptr) return ALGUNO_FALLO;
     TCodigoSalida codigo = TODO_BIEN;
-    for (const auto& fichero : opciones.Ficheros) codigo = PeorDe(codigo, Procesa(fichero, opciones));
+    while (const auto escritura = lista.Siguiente()) {
+        const auto resultado = ProcesaEscritura(*escritura, opciones, varias);
+        if (!resultado.Aviso.empty()) Avisa(resultado.Aviso);
+        Escribe(resultado.Salida);
+        codigo = PeorDe(codigo, resultado.Codigo);
+    }
     return codigo;
+}
+
+int Ejecuta(const TOpcionesAnaliza& opciones, const TCreaVentanas& creaVentanas) {
+    const bool varias = opciones.Ficheros.size() > 1 || EsDeVarias(opciones.Ficheros.front());
+    if (const auto causa = Incompatible(opciones, varias); !causa.empty()) return MalUso(causa);
+    TListaEscrituras lista(opciones.Ficheros, stdin, opciones.Nulos ? '\0' : '\n');
+    if (opciones.Revisa || (!varias && !opciones.Resultados))
+        return AnalizaDeUnaEnUna(lista, opciones, varias, creaVentanas);
+    const TAjustesOficina ajustes(opciones.Config, opciones.Tablas);
+    return AnalizaLote(lista, opciones);
 }
 
 }  // namespace
 
 int OrdenAnaliza(int argc, char** argv, const TCreaVentanas& creaVentanas) {
     CLI::App aplicacion("Lee escrituras notariales y extrae los datos que la notaría registra.", "analiza");
-    TOpciones opciones;
+    TOpcionesAnaliza opciones;
     Declara(aplicacion, opciones);
     return EjecutaOrden(aplicacion, argc, argv, "falta el fichero que se quiere analizar",
                         [&] { return Ejecuta(opciones, creaVentanas); });

@@ -88,6 +88,11 @@ TJson Otorgantes(const ListaTextos<TROtorgante>& otorgantes) {
     return json;
 }
 
+// A file's name need not be valid UTF-8.
+std::string EnUnaLinea(const TJson& json) {
+    return json.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
 TJson Operacion(const TClassOperacion& operacion) {
     TJson plazos = TJson::array();
     for (const auto& plazo : operacion.Plazos) plazos.push_back(Cad_Int(plazo));
@@ -108,29 +113,30 @@ std::string LineaJsonModelo() {
     return json.dump();
 }
 
+std::string LineaJsonError(const std::filesystem::path& fichero, const std::string& error) {
+    return EnUnaLinea({{"archivo", Utf8DeRuta(fichero)}, {"error", error}});
+}
+
 std::string LineaJson(const std::filesystem::path& fichero, const TAnalisisEscritura& analisis,
-                      TPedidoJson pedido) {
+                      const TPedidoJson& pedido) {
+    if (!analisis.Error().empty()) return LineaJsonError(fichero, analisis.Error());
     TJson json;
     json["archivo"] = Utf8DeRuta(fichero);
-    if (!analisis.Error().empty()) {
-        json["error"] = analisis.Error();
-    } else {
-        const TClassAnalizadorAbierto& sesion = analisis.Sesion();
-        json["idioma"] = EsCastellano() ? "castellano" : "catalan";
-        json["Cabecera"] = Cabecera(sesion.Cabecera);
-        if (pedido.Revisado) json["Aceptado"] = sesion.Aceptado;
-        json["Conceptos"] = Conceptos(sesion.Cabecera.Conceptos);
-        if (pedido.Revisado) json["ConceptosValidos"] = Conceptos(sesion.ConceptosValidos);
-        json["Cuantias"] = Textos(sesion.Cuantias);
-        json["Otorgantes"] = Otorgantes(sesion.Otorgantes.Lista);
-        json["Operacion"] = Operacion(sesion.Operacion);
-        json["Fincas"] = Textos(sesion.Fincas);
-        json["Empleado"] = Utf8DeAnsi(sesion.Empleado);
-        json["Pizarra"] = Utf8DeAnsi(sesion.Pizarra);
-        if (pedido.Origen) json["Origen"] = JsonOrigen(analisis);
-    }
-    // A file's name need not be valid UTF-8.
-    return json.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+    const TClassAnalizadorAbierto& sesion = analisis.Sesion();
+    if (!pedido.Huella.empty()) json["huella"] = pedido.Huella;
+    json["idioma"] = EsCastellano() ? "castellano" : "catalan";
+    json["Cabecera"] = Cabecera(sesion.Cabecera);
+    if (pedido.Revisado) json["Aceptado"] = sesion.Aceptado;
+    json["Conceptos"] = Conceptos(sesion.Cabecera.Conceptos);
+    if (pedido.Revisado) json["ConceptosValidos"] = Conceptos(sesion.ConceptosValidos);
+    json["Cuantias"] = Textos(sesion.Cuantias);
+    json["Otorgantes"] = Otorgantes(sesion.Otorgantes.Lista);
+    json["Operacion"] = Operacion(sesion.Operacion);
+    json["Fincas"] = Textos(sesion.Fincas);
+    json["Empleado"] = Utf8DeAnsi(sesion.Empleado);
+    json["Pizarra"] = Utf8DeAnsi(sesion.Pizarra);
+    if (pedido.Origen) json["Origen"] = JsonOrigen(analisis);
+    return EnUnaLinea(json);
 }
 
 }  // namespace analizador

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <filesystem>
 #include <memory>
@@ -37,6 +38,7 @@ std::unique_ptr<TVentanas> PasaALasVentanas(char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failure to write, which is told
     const std::string_view orden = argc > 1 ? argv[1] : "";
     if (orden == "vocabulario") return OrdenVocabulario(argc - 1, argv + 1);
     if (orden == "medida") return OrdenMedida(argc - 1, argv + 1);

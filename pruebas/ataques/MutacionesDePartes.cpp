@@ -59,7 +59,7 @@ std::string NombreHostil(TAzar& azar) {
         "word/document.xml/",
         "WORD/DOCUMENT.XML",
         "word//document.xml",
-        "word/\xC3\x28.xml",
+        "word/@@.xml",
         "con\nsalto.xml",
         "\x1B[31mrojo.xml",
         "~$escritura.docx",
@@ -73,7 +73,10 @@ std::string NombresHostiles(TPartes partes, TAzar& azar) {
     if (azar.Hasta(2) == 0)
         UnaParte(partes, azar).first = NombreHostil(azar) + std::to_string(azar.Hasta(10));
     partes.emplace_back(NombreHostil(azar) + "x", "<fuera/>");
-    return Comprime(partes);
+    auto bytes = Comprime(partes);  // whose maker takes no name that is not UTF-8
+    for (auto en = bytes.find("/@@"); en != std::string::npos; en = bytes.find("/@@", en))
+        bytes.replace(en, 3, "/\xC3\x28");
+    return bytes;
 }
 
 std::string NombreEnOtraCaja(TPartes partes, TAzar& azar) {

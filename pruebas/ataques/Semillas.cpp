@@ -69,12 +69,12 @@ TPartes DocumentoTrabajado(const TPartes& ejemplo) {
         "w:val=\"Tablanormal\"/></w:style>"
         "<w:style w:type=\"table\" w:default=\"1\" w:styleId=\"Tablanormal\"/>",
         "<w:trackRevisions/><w:docVars><w:docVar w:name=\"PROTOCOLO\" w:val=\"1236\"/></w:docVars>");
-    auto& relaciones = Parte(partes, "word/_rels/document.xml.rels");
     for (const char* parte : {"footnotes", "comments", "numbering", "fontTable", "webSettings", "header1"}) {
-        partes.emplace_back("word/" + std::string(parte) + ".xml", ParteSuelta(parte, "<w:p/>"));
+        auto& relaciones = Parte(partes, "word/_rels/document.xml.rels");
         relaciones.insert(relaciones.find("</Relationships>"),
                           "<Relationship Id=\"r" + std::string(parte) + "\" Type=\"" +
                               std::string(RELACIONES) + parte + "\" Target=\"" + parte + ".xml\"/>");
+        partes.emplace_back("word/" + std::string(parte) + ".xml", ParteSuelta(parte, "<w:p/>"));
     }
     partes.emplace_back("docProps/core.xml", "<cp:coreProperties xmlns:cp=\"urn:cp\"/>");
     partes.emplace_back("docProps/app.xml", "<Properties><Application>x</Application></Properties>");

@@ -33,7 +33,8 @@ void FuzzDocumento(std::string_view bytes);
 // reads as before but for the bookmarks; the original stays untouched and no other file is left.
 void FuzzGuardado(std::string_view bytes);
 
-// A paragraph, after a byte that chooses the office. Every recogniser reads it; all places told lie in it.
+// A paragraph, after a byte that chooses the office and one that chooses the recognisers: of words, persons,
+// circumstances, interventions, the operation or the heading. All places told lie in it.
 void FuzzReconocedores(std::string_view bytes);
 
 // A deed, after a byte that chooses the office. The whole analysis; its report is text and its JSON is JSON.

@@ -1,5 +1,6 @@
 #include "pruebas/fuzz/OficinaAlAzar.h"
 
+#include <algorithm>
 #include <array>
 #include <fstream>
 #include <random>
@@ -122,14 +123,26 @@ class TAzar {
 const std::filesystem::path VOCABULARIO = CARPETA_VOCABULARIO;
 constexpr std::array<std::string_view, 2> FICHEROS = {"CASTELLANO.INI", "CATALAN.INI"};
 
-std::string VocabularioAlAzar(TAzar& azar) {
+std::string TextoIni(const std::string& seccion, const std::vector<std::string>& entradas) {
+    std::string texto = "[" + seccion + "]\r\nNumPalabras=" + std::to_string(entradas.size()) + "\r\n";
+    for (std::size_t i = 0; i < entradas.size(); ++i)
+        texto += std::to_string(i + 1) + "=\"" + entradas[i] + "\"\r\n";
+    return texto;
+}
+
+std::string Vocabulario(unsigned numero, std::string_view fichero, TAzar& azar) {
+    constexpr std::size_t PRIMERAS = 8;
+    const auto original = AbreFicheroIni(VOCABULARIO / fichero);
     std::string texto;
-    for (const auto& seccion : AbreFicheroIni(VOCABULARIO / FICHEROS[0])->Secciones()) {
-        const std::size_t entradas = azar.Menor(5);
-        texto.append("[").append(seccion.Nombre).append("]\r\n");
-        texto += "NumPalabras=" + std::to_string(entradas) + "\r\n";
-        for (std::size_t i = 1; i <= entradas; ++i)
-            texto += std::to_string(i) + "=\"" + azar.Entrada() + "\"\r\n";
+    for (const auto& seccion : original->Secciones()) {
+        std::vector<std::string> entradas;
+        if (numero == 0) {
+            entradas = original->Palabras(seccion.Nombre);
+            entradas.resize(std::min(entradas.size(), PRIMERAS));
+        } else {
+            for (std::size_t i = azar.Menor(5); i > 0; --i) entradas.push_back(azar.Entrada());
+        }
+        texto += TextoIni(seccion.Nombre, entradas);
     }
     return texto;
 }
@@ -142,11 +155,11 @@ TOficinaAlAzar::TOficinaAlAzar(unsigned numero) {
 }
 
 void TOficinaAlAzar::PonVocabulario(unsigned numero) {
-    carpeta_ = numero == 0 ? VOCABULARIO : CarpetaPrivada() / ("oficina" + std::to_string(numero));
+    carpeta_ = CarpetaPrivada() / ("oficina" + std::to_string(numero));
     TAzar azar(numero);
     std::filesystem::create_directories(carpeta_);
     for (const auto fichero : FICHEROS) {
-        if (numero != 0) std::ofstream(carpeta_ / fichero, std::ios::binary) << VocabularioAlAzar(azar);
+        std::ofstream(carpeta_ / fichero, std::ios::binary) << Vocabulario(numero, fichero, azar);
         const auto leido = AbreFicheroIni(carpeta_ / fichero);
         for (const auto& seccion : leido->Secciones())
             for (const auto& palabra : leido->Palabras(seccion.Nombre)) palabras_.push_back(palabra);

@@ -14,7 +14,7 @@
 
 namespace analizador {
 
-// Office 0 has the vocabulary as it is shipped; the others a few entries in each of its sections, of real
+// Office 0 has the first entries of each section of the shipped vocabulary; the others a few made of real
 // words, pieces of them and signs, the same ones on every run. All have small tables made likewise.
 class TOficinaAlAzar {
   public:

@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(Fuzzers, Repite,
                                          TFuzzer{"guardado", FuzzGuardado},
                                          TFuzzer{"reconocedores", FuzzReconocedores},
                                          TFuzzer{"sesion", FuzzSesion}, TFuzzer{"textos", FuzzTextos}),
-                         [](const auto& info) { return std::string(info.param.Nombre); });
+                         [](const auto& caso) { return std::string(caso.param.Nombre); });
 
 }  // namespace
 }  // namespace analizador

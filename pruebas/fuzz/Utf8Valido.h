@@ -8,12 +8,17 @@
 namespace analizador {
 
 // The library of JSON refuses to write what is no valid UTF-8.
-inline void ExigeUtf8(const std::string& texto) {
+inline bool EsUtf8(const std::string& texto) {
     try {
         static_cast<void>(nlohmann::json(texto).dump());
+        return true;
     } catch (const nlohmann::json::type_error&) {
-        throw FalloFuzz("not valid UTF-8");
+        return false;
     }
+}
+
+inline void ExigeUtf8(const std::string& texto) {
+    Exige(EsUtf8(texto), "not valid UTF-8");
 }
 
 }  // namespace analizador

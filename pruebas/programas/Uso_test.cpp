@@ -40,6 +40,18 @@ TEST(UsoAnaliza, UnaLlamadaEquivocadaSeExplicaEnUnaLinea) {
         {{"--guarda", "--salida", "b.docx", "a.docx"}, "--guarda y --salida no van juntas"},
         {{"--salida", "b.docx", "--guarda", "a.docx"}, "--guarda y --salida no van juntas"},
         {{"--salida", "c.docx", "a.docx", "b.docx"}, "con --salida se analiza un solo fichero"},
+        {{"--salida", "c.docx", "-"}, "con --salida se analiza un solo fichero"},
+        {{"--salida", "c.docx", CARPETA_EJEMPLOS}, "con --salida se analiza un solo fichero"},
+        {{"--resultados", "r", "a.docx"}, "--resultados solo va con --json"},
+        {{"--json", "--continua", "a.docx"}, "--continua solo va con --resultados"},
+        {{"--json", "-0", "a.docx"}, "-0 solo va con -"},
+        {{"--json", "--revisa", "--resultados", "r", "a.docx"}, "--revisa y --resultados no van juntas"},
+        {{"--revisa", "--hilos", "2", "a.docx"}, "--revisa va de una en una: sobra --hilos"},
+        {{"--guarda", "--hilos", "2", "a.docx"}, "--guarda va de una en una: sobra --hilos"},
+        {{"--hilos", "0", "a.docx"}, "una opción tiene un valor que no se entiende"},
+        {{"--hilos", "muchos", "a.docx"}, "una opción tiene un valor que no se entiende"},
+        {{"a.docx", "--hilos"}, "a --hilos le falta su valor"},
+        {{"a.docx", "--resultados"}, "a --resultados le falta su valor"},
         {{"--json=quizá", "a.docx"}, "una opción tiene un valor que no se entiende"},
     };
     for (const auto& caso : casos) {
