@@ -13,11 +13,16 @@
 #include <string>
 #include <vector>
 
+#include "adaptadores/dbase/ProveedorDbase.h"
 #include "adaptadores/docx/FicheroDocx.h"
 #include "adaptadores/memoria/DocumentoMemoria.h"
+#include "analizador/ConstAnalizador.h"
 #include "medidas/Crecimiento.h"
 #include "medidas/EscriturasCrecidas.h"
 #include "medidas/MemoriaContada.h"
+#include "medidas/OficinaCrecida.h"
+#include "plataforma/FicheroIni.h"
+#include "plataforma/Rficheros.h"
 #include "programas/analiza/Entorno.h"
 
 namespace {
@@ -89,7 +94,7 @@ void EscribeFilas(const std::string& titulo, const std::vector<TCaso>& casos,
 // Measures the cases and writes them; false when one grows too fast. Noise only adds, so what seems to grow
 // is measured again and the least of each size counts.
 bool Comprueba(const std::string& titulo, const std::vector<TCaso>& casos) {
-    constexpr int INTENTOS = 3;
+    constexpr int INTENTOS = 5;
     std::vector<TCoste> costes(casos.size(), {HUGE_VAL, 0});
     bool lineal = false;
     for (int intento = 0; intento < INTENTOS && !lineal; ++intento) {
@@ -123,37 +128,94 @@ constexpr std::array<TManera, 5> MANERAS = {{
     {"one paragraph for each section", UnParrafoPorSeccion},
 }};
 
-bool CompruebaEscrituras(const std::string& fichero, const std::string& solo, int hasta) {
-    const TEscrituraEjemplo ejemplo = Ejemplo(TFicheroDocx(fs::path(EJEMPLOS) / fichero).Contenido().Texto);
-    bool lineal = true;
-    for (const auto& [nombre, crece] : MANERAS) {
-        const std::string titulo = fichero + ": " + nombre;
-        if (titulo.find(solo) == std::string::npos) continue;
-        std::vector<TCaso> casos;
-        for (int veces = 1; veces <= hasta; veces *= 10) {
-            const auto texto = std::make_shared<const std::string>(crece(ejemplo, veces));
-            casos.push_back({veces, [texto] { Analiza(*texto); }});
-        }
-        lineal = Comprueba(titulo, casos) && lineal;
+// What the user asked for.
+struct TOrden {
+    std::string Solo;
+    int Hasta = 1000;
+
+    [[nodiscard]] bool Quiere(const std::string& titulo) const {
+        return titulo.find(Solo) != std::string::npos;
     }
-    return lineal;
+};
+
+using TCrece = std::function<std::string(int)>;
+
+bool CompruebaEscritura(const TOrden& orden, const std::string& titulo, const TCrece& crece) {
+    if (!orden.Quiere(titulo)) return true;
+    std::vector<TCaso> casos;
+    for (int veces = 1; veces <= orden.Hasta; veces *= 10) {
+        const auto texto = std::make_shared<const std::string>(crece(veces));
+        casos.push_back({veces, [texto] { Analiza(*texto); }});
+    }
+    return Comprueba(titulo, casos);
+}
+
+bool CompruebaEscrituras(const TOrden& orden) {
+    bool lineal = true;
+    for (const char* const fichero : {"compraventa.docx", "compraventa_extranjero.docx", "compravenda.docx",
+                                      "prestamo_hipotecario.docx", "testamento.docx"}) {
+        const TEscrituraEjemplo ejemplo =
+            Ejemplo(TFicheroDocx(fs::path(EJEMPLOS) / fichero).Contenido().Texto);
+        for (const auto& [nombre, crece] : MANERAS)
+            lineal = CompruebaEscritura(orden, std::string(fichero) + ": " + nombre,
+                                        [&, crece = crece](int veces) { return crece(ejemplo, veces); }) &&
+                     lineal;
+    }
+    lineal = CompruebaEscritura(orden, "ten parties, all in the transfer",
+                                [](int veces) { return EscrituraDeOtorgantes(10 * veces); }) &&
+             lineal;
+    return CompruebaEscritura(orden, "one paragraph of all words",
+                              [](int veces) { return SoloPalabras(Rutas().CASTELLANO_INI, veces); }) &&
+           lineal;
+}
+
+// The example in an office whose tables and vocabulary grow: warm, and with all of it read anew.
+bool CompruebaOficinas(const TOrden& orden) {
+    const std::string texto = TFicheroDocx(fs::path(EJEMPLOS) / "compraventa.docx").Contenido().Texto;
+    const fs::path carpeta = CARPETA_BIN;
+    const auto comprueba = [&](const std::string& que, int vocabulario, int tablas) {
+        std::vector<TCaso> calientes;
+        std::vector<TCaso> frios;
+        for (const bool crecida : {false, true}) {
+            const int veces = crecida ? 10 : 1;
+            const TOficinaCrecida oficina(carpeta / "CONFIG", carpeta / "TABLAS", crecida ? vocabulario : 1,
+                                          crecida ? tablas : 1);
+            const auto proveedor = std::make_shared<TProveedorDbase>(oficina.Tablas());
+            calientes.push_back({veces, [=] {
+                                     PonCarpetaTokens(oficina.Config());
+                                     const InstalaTablas instala(*proveedor);
+                                     Analiza(texto);
+                                 }});
+            frios.push_back({veces, [=] {
+                                 PonCarpetaTokens(oficina.Config());
+                                 TProveedorDbase nuevo(oficina.Tablas());
+                                 const InstalaTablas instala(nuevo);
+                                 for (const auto& fichero : {Rutas().CASTELLANO_INI, Rutas().CATALAN_INI})
+                                     const TFicheroIni leido(LeeFichero(fichero).Bytes);
+                                 Analiza(texto);
+                             }});
+        }
+        const bool caliente = !orden.Quiere(que) || Comprueba(que, calientes);
+        const bool frio = !orden.Quiere(que) || Comprueba(que + ", read anew", frios);
+        return caliente && frio;
+    };
+    const bool tablas = comprueba("rows of all tables", 1, 10);
+    const bool vocabulario = comprueba("entries of the vocabulary", 10, 1);
+    return tablas && vocabulario;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     CLI::App orden{"Measures how the analysis grows"};
-    std::string solo;
-    int hasta = 1000;
-    orden.add_option("--solo", solo, "Only the rows whose title has this");
-    orden.add_option("--hasta", hasta, "The greatest size");
+    TOrden pedido;
+    orden.add_option("--solo", pedido.Solo, "Only the rows whose title has this");
+    orden.add_option("--hasta", pedido.Hasta, "The greatest size of a deed");
     CLI11_PARSE(orden, argc, argv);
 
     const TEntorno entorno(fs::path(CARPETA_BIN) / "CONFIG", fs::path(CARPETA_BIN) / "TABLAS");
     std::printf("| what grows | times | time | growth | memory | growth |\n|---|---|---|---|---|---|\n");
-    bool lineal = true;
-    for (const char* const fichero : {"compraventa.docx", "compraventa_extranjero.docx", "compravenda.docx",
-                                      "prestamo_hipotecario.docx", "testamento.docx"})
-        lineal = CompruebaEscrituras(fichero, solo, hasta) && lineal;
-    return lineal ? 0 : 1;
+    const bool escrituras = CompruebaEscrituras(pedido);
+    const bool oficinas = CompruebaOficinas(pedido);
+    return escrituras && oficinas ? 0 : 1;
 }

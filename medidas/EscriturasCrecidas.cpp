@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "adaptadores/memoria/DocumentoMemoria.h"
+#include "plataforma/FicheroIni.h"
 
 namespace analizador {
 
@@ -111,6 +112,35 @@ std::string UnParrafoPorSeccion(const TEscrituraEjemplo& ejemplo, int veces) {
             Repite(EnUnaLinea(std::string_view(ejemplo.Texto).substr(desde, hasta - desde)), veces) + '\r';
     }
     return texto;
+}
+
+std::string EscrituraDeOtorgantes(int otorgantes) {
+    std::string comparecen;
+    std::string intervienen;
+    std::string venden = "Por ello ";
+    std::string compran;
+    for (int i = 1; i <= otorgantes; ++i) {
+        const std::string nombre = "DON JOSE GARCIA" + Apellido(i) + " OCHOA";
+        const std::string nif = std::to_string(10000000 + i) + "A";
+        comparecen += nombre +
+                      ", mayor de edad, soltero, vecino de Madrid, con domicilio en calle Mayor, "
+                      "numero 1, con D.N.I. " +
+                      nif + ".\r";
+        intervienen += " " + nombre + " interviene en nombre y representacion de la sociedad \"CASAS" +
+                       Apellido(i) + ", S.L.\", con C.I.F. A58818501.\r";
+        (i % 2 == 0 ? compran : venden) += nombre + ", ";
+    }
+    return "NUMERO UNO.\rCOMPRAVENTA\rEn Madrid, a uno de enero de dos mil veinte.\rCOMPARECEN\r" +
+           comparecen + "INTERVIENEN\r" + intervienen + "EXPONEN\r" + venden + "VENDE Y TRANSMITE a " +
+           compran + "\r";
+}
+
+std::string SoloPalabras(const std::filesystem::path& vocabulario, int veces) {
+    const auto fichero = AbreFicheroIni(vocabulario);
+    std::string palabras;
+    for (const auto& seccion : fichero->Secciones())
+        for (const std::string& palabra : fichero->Palabras(seccion.Nombre)) palabras += palabra + ' ';
+    return Repite(palabras, veces) + '\r';
 }
 
 }  // namespace analizador

@@ -3,6 +3,7 @@
 // Deeds made many times as long as an example, each in a way of its own, so that every stage gets more to do.
 // `veces`: 1 or more. Texts as TContenidoDocumento has them.
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,5 +36,13 @@ struct TEscrituraEjemplo {
 
 // One paragraph for each section, which holds the section time and again.
 [[nodiscard]] std::string UnParrafoPorSeccion(const TEscrituraEjemplo& ejemplo, int veces);
+
+// ---- Deeds of nothing but what costs most
+
+// A sale of so many parties who appear, each for a company, all of them named in the transfer's paragraph.
+[[nodiscard]] std::string EscrituraDeOtorgantes(int otorgantes);
+
+// One paragraph with every entry of the vocabulary, so many times.
+[[nodiscard]] std::string SoloPalabras(const std::filesystem::path& vocabulario, int veces);
 
 }  // namespace analizador
