@@ -10,7 +10,7 @@ install(FILES adaptadores/ini/OFICINA.INI DESTINATION CONFIG COMPONENT paquete E
 install(DIRECTORY docs DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
 if(TARGET analizador_qt)
   # What whoever gets Qt's code must get with it.
-  install(DIRECTORY ${QT6_INSTALL_PREFIX}/licencias/ DESTINATION licencias/Qt COMPONENT paquete EXCLUDE_FROM_ALL)
+  install(DIRECTORY ${qt_windows}/licencias/ DESTINATION licencias/Qt COMPONENT paquete EXCLUDE_FROM_ALL)
 endif()
 
 set(CPACK_GENERATOR ZIP)

@@ -22,8 +22,8 @@
  * ever thrown. The reason of a failure, one line of Castilian for the user, is what analizador_error returns.
  *
  * Threads. Sessions are independent: each may be used from any thread, by one thread at a time, and several
- * may analyse at once. Opening and closing sessions is safe from any thread. An analysis keeps the calling
- * thread until it is done.
+ * may analyse at once; while the windows of a review are open the others wait. Opening and closing sessions
+ * is safe from any thread. An analysis keeps the calling thread until it is done.
  *
  * Calls use the C convention of the platform (cdecl). The floating-point settings of the calling thread are
  * put aside during each call and put back after it.
