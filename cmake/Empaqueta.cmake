@@ -8,6 +8,10 @@ install(DIRECTORY ${CMAKE_BINARY_DIR}/bin/CONFIG ${CMAKE_BINARY_DIR}/bin/TABLAS
         DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
 install(FILES adaptadores/ini/OFICINA.INI DESTINATION CONFIG COMPONENT paquete EXCLUDE_FROM_ALL)
 install(DIRECTORY docs DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
+if(TARGET analizador_qt)
+  # What whoever gets Qt's code must get with it.
+  install(DIRECTORY ${qt_windows}/licencias/ DESTINATION licencias/Qt COMPONENT paquete EXCLUDE_FROM_ALL)
+endif()
 
 set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_FILE_NAME analizador-${PROJECT_VERSION}-windows)

@@ -23,6 +23,7 @@ class TVentanaAjena : public QWidget {
 
   protected:
     bool event(QEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
   private:
     void Habilita(bool habilita);

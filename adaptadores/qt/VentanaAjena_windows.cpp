@@ -1,5 +1,5 @@
-// A hidden window stands between: Qt's dialogs have it as their parent, and the system has the other one as
-// its owner.
+// Qt does not take a window of others as the parent of its dialogs: a hidden one of its own stands in for it.
+// To the system the other one is their owner all the same, so that they are minimised and come back with it.
 
 #include <windows.h>
 
@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QRect>
 #include <QScreen>
+#include <QWindow>
 
 #include "adaptadores/qt/VentanaAjena.h"
 
@@ -46,6 +47,7 @@ TVentanaAjena::TVentanaAjena(std::intptr_t ventana)
     const HWND propia = Asa(static_cast<std::intptr_t>(winId()));
     if (FAjena == 0) return;
     SetWindowLongPtrW(propia, GWLP_HWNDPARENT, FAjena);
+    QCoreApplication::instance()->installEventFilter(this);
     if (const QRect lugar = Lugar(Asa(FAjena)); lugar.isValid()) setGeometry(lugar);
 }
 
@@ -68,13 +70,26 @@ bool TVentanaAjena::event(QEvent* evento) {
     return QWidget::event(evento);
 }
 
+// Qt gives a window its owner when it shows it.
+bool TVentanaAjena::eventFilter(QObject* objeto, QEvent* evento) {
+    if (evento->type() == QEvent::Expose) {
+        auto* const ventana = qobject_cast<QWindow*>(objeto);
+        if (ventana != nullptr && ventana->transientParent() == windowHandle())
+            SetWindowLongPtrW(Asa(static_cast<std::intptr_t>(ventana->winId())), GWLP_HWNDPARENT, FAjena);
+    }
+    return QWidget::eventFilter(objeto, evento);
+}
+
 void TVentanaAjena::Habilita(bool habilita) {
     const HWND ajena = Asa(FAjena);
-    if (FAjena == 0 || !EsDeEsteProceso(ajena) || habilita != FInhabilitada) return;
-    if (!habilita && !IsWindowEnabled(ajena)) return;
-    FInhabilitada = !habilita;
-    EnableWindow(ajena, habilita ? TRUE : FALSE);
-    if (habilita && EsDeEsteProceso(GetForegroundWindow())) SetForegroundWindow(ajena);
+    if (FAjena == 0 || !EsDeEsteProceso(ajena)) return;
+    if (!habilita && IsWindowEnabled(ajena)) {
+        FInhabilitada = true;
+        EnableWindow(ajena, FALSE);
+    } else if (habilita && FInhabilitada) {
+        FInhabilitada = false;
+        EnableWindow(ajena, TRUE);
+    }
 }
 
 }  // namespace analizador

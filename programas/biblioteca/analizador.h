@@ -22,11 +22,11 @@
  * ever thrown. The reason of a failure, one line of Castilian for the user, is what analizador_error returns.
  *
  * Threads. Sessions are independent: each may be used from any thread, by one thread at a time, and several
- * may analyse at once. Opening and closing sessions is safe from any thread. An analysis keeps the calling
- * thread until it is done. A call with a session that is in another call (of another thread; or of the same
- * one, from an event that comes in while Word answers) does nothing and fails with ANALIZADOR_MAL_USO; until
- * that other call ends, analizador_error of the session is the reason of the calls that it refused to this
- * thread.
+ * may analyse at once; while the windows of a review are open the others wait. Opening and closing sessions
+ * is safe from any thread. An analysis keeps the calling thread until it is done. A call with a session that
+ * is in another call (of another thread; or of the same one, from an event that comes in while Word answers)
+ * does nothing and fails with ANALIZADOR_MAL_USO; until that other call ends, analizador_error of the session
+ * is the reason of the calls that it refused to this thread.
  *
  * Calls use the C convention of the platform (cdecl). The floating-point settings of the calling thread are
  * put aside during each call and put back after it.

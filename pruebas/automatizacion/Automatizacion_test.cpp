@@ -8,10 +8,14 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "adaptadores/word/ObjetoWord.h"
 #include "plataforma/Ansi.h"
 #include "pruebas/automatizacion/Maquina.h"
+#include "pruebas/automatizacion/Teclado.h"
+#include "pruebas/word/Compraventa.h"
 #include "pruebas/word/WordDePrueba.h"
 
 namespace analizador {
@@ -22,20 +26,6 @@ using testing::HasSubstr;
 
 constexpr const wchar_t* CLASE = L"Software\\Classes\\CLSID\\{174AE529-FF7C-496E-B3FC-56DD4165775B}";
 constexpr const wchar_t* NOMBRE = L"Software\\Classes\\Analizador.Escritura";
-
-const std::string COMPRAVENTA =
-    "NUMERO DOS MIL CINCO.\r"
-    "ESCRITURA DE COMPRAVENTA.\r"
-    "En Madrid, a dos de marzo de dos mil doce.\r"
-    "Ante mi, ALFONSO REQUEJO, Notario de Madrid,\r"
-    "COMPARECEN\r"
-    "DON JUAN PEREZ GIL, mayor de edad, soltero, vecino de MADRID, con "
-    "domicilio en la calle Mayor, 5, con D.N.I. numero 12345678-Z.\r"
-    "DON LUIS SANZ RUBIO, mayor de edad, soltero, vecino de MADRID, con domicilio en la calle Mayor, 7, con "
-    "D.N.I. numero 00000001-R.\r"
-    "INTERVIENEN en su propio nombre.\r"
-    "EXPONEN\r"
-    "DON JUAN PEREZ GIL vende a DON LUIS SANZ RUBIO, por 1.000,50 EUROS, la finca.\r";
 
 // The deed as Word holds it.
 std::string Ejemplo(const char* nombre) {
@@ -176,13 +166,38 @@ TEST_F(Automatizacion, LosErroresSonDeLaEscrituraYEnCastellano) {
     const auto sinAnalizar = Mensaje([&] { return escritura.Texto("Notario"); });
     EXPECT_THAT(sinAnalizar, HasSubstr("no hay ninguna escritura analizada en la sesión"));
     EXPECT_THAT(sinAnalizar, HasSubstr("[Analizador.Escritura]"));
-    EXPECT_THAT(Mensaje([&] { return escritura.Verdad("Analiza", Word.Aplicacion(), false); }),
-                HasSubstr("no hay ventanas instaladas para la revisión"));
     EXPECT_THAT(Mensaje([&] { return escritura.Verdad("Analiza", std::u16string(u"Word"), true); }),
                 HasSubstr("0x80020005"));
     EXPECT_THAT(Mensaje([&] { return escritura.Verdad("Analiza"); }), HasSubstr("0x8002000e"));
     EXPECT_THAT(Mensaje([&] { return escritura.Texto("NoEsNinguna"); }), HasSubstr("0x80020006"));
 }
+
+#ifndef CON_VENTANAS
+TEST_F(Automatizacion, SinVentanasNoHayRevisionYSeDice) {
+    const auto escritura = Escritura();
+    EXPECT_THAT(Mensaje([&] { return escritura.Verdad("Analiza", Word.Aplicacion(), false); }),
+                HasSubstr("no hay ventanas instaladas para la revisión"));
+}
+#else
+TEST_F(Automatizacion, LoRevisadoSeAceptaOSeCancela) {
+    const auto escritura = Escritura();
+    {
+        const TTeclado teclado(L"Lista de Conceptos de la Escritura", {VK_ESCAPE});
+        EXPECT_FALSE(escritura.Verdad("Analiza", Word.Aplicacion(), false));
+    }
+    EXPECT_FALSE(escritura.Verdad("Aceptado"));
+    {
+        // The first control has the focus; "Continuar" is the last but one.
+        std::vector<WORD> teclas(13, VK_TAB);
+        teclas.push_back(VK_SPACE);
+        const TTeclado teclado(L"Lista de Conceptos de la Escritura", std::move(teclas));
+        EXPECT_TRUE(escritura.Verdad("Analiza", Word.Aplicacion(), false));
+    }
+    EXPECT_TRUE(escritura.Verdad("Aceptado"));
+    EXPECT_EQ(escritura.Objeto("Otorgantes", "Otorgantes").Entero("Count"), 2);
+    EXPECT_EQ(Word.Objetos(), 0);
+}
+#endif
 
 // The failure of a call in the middle: told once, without the deed's words, and the next analysis goes well.
 TEST_F(Automatizacion, UnFalloDeWordNoDiceNadaDeLaEscritura) {

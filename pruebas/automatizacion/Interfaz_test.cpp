@@ -6,8 +6,10 @@
 
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "programas/biblioteca/analizador.h"
+#include "pruebas/automatizacion/Teclado.h"
 #include "pruebas/word/WordDePrueba.h"
 
 namespace analizador {
@@ -77,10 +79,27 @@ TEST_F(InterfazWindows, AnalizaLaEscrituraAbiertaEnWord) {
 
 TEST_F(InterfazWindows, LoQueNoVaConWordSeRechaza) {
     EXPECT_EQ(analizador_analiza_word(Sesion.get(), nullptr, ANALIZADOR_CON_ORIGEN), ANALIZADOR_MAL_USO);
-    EXPECT_EQ(analizador_analiza_word(Sesion.get(), nullptr, ANALIZADOR_CON_REVISION),
-              ANALIZADOR_SIN_VENTANAS);
     EXPECT_EQ(analizador_analiza_word(nullptr, nullptr, 0), ANALIZADOR_MAL_USO);
 }
+
+#ifndef CON_VENTANAS
+TEST_F(InterfazWindows, SinVentanasNoHayRevision) {
+    EXPECT_EQ(analizador_analiza_texto(Sesion.get(), ESCRITURA, ANALIZADOR_CON_REVISION),
+              ANALIZADOR_SIN_VENTANAS);
+    EXPECT_EQ(Error(), "no hay ventanas instaladas para la revisión");
+}
+#else
+TEST_F(InterfazWindows, UnTextoSeRevisaEnCualquierHilo) {
+    const auto revisa = [this](WORD tecla) {
+        const pruebas::TTeclado teclado(L"Lista de Conceptos de la Escritura", {tecla});
+        EXPECT_EQ(analizador_analiza_texto(Sesion.get(), ESCRITURA, ANALIZADOR_CON_REVISION), ANALIZADOR_BIEN)
+            << Error();
+        EXPECT_EQ(analizador_aceptada(Sesion.get()), 0);
+    };
+    revisa(VK_ESCAPE);
+    std::thread(revisa, static_cast<WORD>(VK_ESCAPE)).join();
+}
+#endif
 
 TEST_F(InterfazWindows, SinDocumentoSeDice) {
     auto& word = pruebas::TWordDePrueba::EnMarcha();

@@ -2,7 +2,10 @@
 file(REMOVE_RECURSE ${DONDE})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${OBRA} --component paquete --prefix ${DONDE} OUTPUT_QUIET
                 COMMAND_ERROR_IS_FATAL ANY)
-foreach(fichero analizador.dll analizador.h libanalizador.dll.a analiza-word.exe creatablas.exe Analizador.bas analiza.vbs
+if(CON_VENTANAS)
+  set(licencias licencias/Qt/LGPL-3.0-only.txt licencias/Qt/GPL-3.0-only.txt licencias/Qt/copyright)
+endif()
+foreach(fichero ${licencias} analizador.dll analizador.h libanalizador.dll.a analiza-word.exe creatablas.exe Analizador.bas analiza.vbs
                 CONFIG/CASTELLANO.INI CONFIG/CATALAN.INI CONFIG/OFICINA.INI TABLAS/MUNICIPI.DBF TABLAS/PROVIN.DBF docs/guia.md
                 docs/windows.md)
   if(NOT EXISTS ${DONDE}/${fichero})

@@ -2,17 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractItemView>
-#include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -24,33 +20,12 @@
 #include "programas/analiza/SalidaJson.h"
 #include "programas/analiza/SalidaTexto.h"
 #include "pruebas/qt/Atiende.h"
+#include "pruebas/qt/Controles.h"
 
 namespace analizador {
 namespace {
 
 namespace fs = std::filesystem;
-
-template <class T = QWidget>
-T& Control(QDialog& dialogo, const char* nombre) {
-    auto* const control = dialogo.findChild<T*>(nombre);
-    if (control == nullptr) throw std::runtime_error(std::string("no control ") + nombre);
-    return *control;
-}
-
-QAbstractItemView& Lista(QDialog& dialogo, const char* nombre) {
-    return Control<QAbstractItemView>(dialogo, nombre);
-}
-
-QStringList Filas(QDialog& dialogo, const char* nombre) {
-    QStringList filas;
-    const auto* const modelo = Lista(dialogo, nombre).model();
-    for (int i = 0; i < modelo->rowCount(); ++i) filas << modelo->index(i, 0).data().toString();
-    return filas;
-}
-
-void Pulsa(QDialog& dialogo, const char* boton) {
-    QTest::mouseClick(&Control<QPushButton>(dialogo, boton), Qt::LeftButton);
-}
 
 // An office with two notaries and tables of its own.
 class AnalisisRevisado : public testing::Test {
