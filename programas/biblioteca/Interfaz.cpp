@@ -60,7 +60,7 @@ int Guarda(analizador_sesion* sesion, const TUnidad* destino, unsigned opciones)
 }
 
 const TMotivo& Motivo(const analizador_sesion* sesion) {
-    return sesion != nullptr ? sesion->Motivo : MotivoDelHilo();
+    return sesion != nullptr && !sesion->EnLlamada ? sesion->Motivo : MotivoDelHilo();
 }
 
 }  // namespace
@@ -90,6 +90,11 @@ int analizador_abre16(int interfaz, const analizador_utf16* vocabularios, const 
 }
 
 void analizador_cierra(analizador_sesion* sesion) {
+    if (sesion == nullptr) return;
+    if (!TTurno(*sesion).EsSuyo()) {
+        Rechaza("la sesión está ocupada con otra llamada: no se cierra");
+        return;
+    }
     const std::unique_ptr<analizador_sesion> suya(sesion);
 }
 

@@ -3,6 +3,7 @@
 // What every call from a host has in common: nothing is thrown, the reason of a failure is kept, and the
 // host's floating-point settings (some trap what is harmless here) are put aside.
 
+#include <atomic>
 #include <cfenv>
 #include <exception>
 #include <new>
@@ -41,6 +42,7 @@ struct analizador_sesion {
 
     analizador::TSesionAnfitrion Sesion;
     analizador::TMotivo Motivo;
+    std::atomic<bool> EnLlamada = false;
 };
 
 namespace analizador {
@@ -83,11 +85,36 @@ int Llama(TMotivo& motivo, TAccion accion) noexcept {
     return ANALIZADOR_FALLO;
 }
 
-// The same with the session of a call, which may be null.
+// A session's turn for one call, when no other call has it: another thread's, or one that waits for Word
+// while the host goes on.
+class TTurno {
+  public:
+    explicit TTurno(analizador_sesion& sesion) : FSesion(sesion), FEsSuyo(!sesion.EnLlamada.exchange(true)) {}
+    ~TTurno() {
+        if (FEsSuyo) FSesion.EnLlamada = false;
+    }
+    TTurno(const TTurno&) = delete;
+    TTurno& operator=(const TTurno&) = delete;
+
+    [[nodiscard]] bool EsSuyo() const { return FEsSuyo; }
+
+  private:
+    analizador_sesion& FSesion;
+    bool FEsSuyo;
+};
+
+// A call that no session takes; its reason is the thread's.
+inline int Rechaza(const char* motivo) noexcept {
+    return Llama(MotivoDelHilo(), [=] { throw ErrorInterfaz(ANALIZADOR_MAL_USO, motivo); });
+}
+
+// The same with the session of a call, which may be null or busy.
 template <class TAccion>
 int LlamaSesion(analizador_sesion* sesion, TAccion accion) noexcept {
-    if (sesion != nullptr) return Llama(sesion->Motivo, [&] { accion(sesion->Sesion); });
-    return Llama(MotivoDelHilo(), [] { throw ErrorInterfaz(ANALIZADOR_MAL_USO, "la sesión es nula"); });
+    if (sesion == nullptr) return Rechaza("la sesión es nula");
+    const TTurno turno(*sesion);
+    if (!turno.EsSuyo()) return Rechaza("la sesión está ocupada con otra llamada");
+    return Llama(sesion->Motivo, [&] { accion(sesion->Sesion); });
 }
 
 }  // namespace analizador

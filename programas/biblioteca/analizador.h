@@ -23,7 +23,10 @@
  *
  * Threads. Sessions are independent: each may be used from any thread, by one thread at a time, and several
  * may analyse at once. Opening and closing sessions is safe from any thread. An analysis keeps the calling
- * thread until it is done.
+ * thread until it is done. A call with a session that is in another call (of another thread; or of the same
+ * one, from an event that comes in while Word answers) does nothing and fails with ANALIZADOR_MAL_USO; until
+ * that other call ends, analizador_error of the session is the reason of the calls that it refused to this
+ * thread.
  *
  * Calls use the C convention of the platform (cdecl). The floating-point settings of the calling thread are
  * put aside during each call and put back after it.
@@ -108,7 +111,7 @@ ANALIZADOR_API int analizador_abre(int interfaz, const char* vocabularios, const
 ANALIZADOR_API int analizador_abre16(int interfaz, const analizador_utf16* vocabularios,
                                      const analizador_utf16* tablas, analizador_sesion** sesion);
 
-/* Ends a session: it and its texts no longer exist. NULL is nothing to do. */
+/* Ends a session: it and its texts no longer exist. NULL is nothing to do; a busy one stays. */
 ANALIZADOR_API void analizador_cierra(analizador_sesion* sesion);
 
 /* Why the last call with this session failed; "" when it did not. NULL: the same of the last call of this

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <atomic>
 #include <thread>
 
 #include "pruebas/biblioteca/SesionDePrueba.h"
@@ -69,6 +70,38 @@ TEST(HilosBiblioteca, ElMotivoSinSesionEsDelHilo) {
     std::thread([&] { otro = analizador_error(nullptr); }).join();
     EXPECT_EQ(otro, "");
     EXPECT_STRNE(analizador_error(nullptr), "");
+}
+
+// Asks the session for something again and again until the analysis of another thread is done; whether it
+// was refused once.
+bool EsRechazada(const TSesion& sesion, const std::atomic<bool>& acabado) {
+    bool rechazada = false;
+    while (!acabado)
+        if (analizador_cuenta(sesion.get(), "/Otorgantes") == -1)
+            rechazada |= std::string(analizador_error(nullptr)) == "la sesión está ocupada con otra llamada";
+    return rechazada;
+}
+
+TEST(HilosBiblioteca, UnaSesionOcupadaRechazaLoQueSeLePida) {
+    std::string larga = "NUMERO DOS MIL CINCO.\r";
+    for (int i = 0; i < 400; ++i) larga += "DON JUAN PEREZ GIL vende la finca por MIL EUROS.\r";
+    const TSesion sesion = Abierta();
+    int resultado = ANALIZADOR_MAL_USO;
+    bool rechazada = false;
+    // Again when the analysis had not begun in time, or came while the other call had the turn.
+    for (int intento = 0; intento < 100 && (!rechazada || resultado != ANALIZADOR_BIEN); ++intento) {
+        std::atomic<bool> acabado = false;
+        std::thread analisis([&] {
+            resultado = analizador_analiza_texto(sesion.get(), larga.c_str(), 0);
+            acabado = true;
+        });
+        rechazada = EsRechazada(sesion, acabado);
+        analisis.join();
+    }
+    EXPECT_TRUE(rechazada);
+    EXPECT_EQ(resultado, ANALIZADOR_BIEN);
+    EXPECT_EQ(Texto(sesion, "/Cabecera/NumeroProtocolo"), "2005");
+    EXPECT_EQ(Error(sesion), "");
 }
 
 }  // namespace
