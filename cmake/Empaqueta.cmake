@@ -3,10 +3,17 @@ install(TARGETS analizador_compartida analiza-word creatablas
         RUNTIME DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL
         ARCHIVE DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
 install(FILES programas/biblioteca/analizador.h ejemplos/anfitriones/Analizador.bas ejemplos/anfitriones/analiza.vbs
+              ejemplos/anfitriones/anfitrion_word.cpp
         DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
 install(DIRECTORY ${CMAKE_BINARY_DIR}/bin/CONFIG ${CMAKE_BINARY_DIR}/bin/TABLAS
         DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
 install(FILES adaptadores/ini/OFICINA.INI DESTINATION CONFIG COMPONENT paquete EXCLUDE_FROM_ALL)
+# The headers of the library's class and of what it gives.
+install(DIRECTORY analizador modelo plataforma rutinas
+        DESTINATION include COMPONENT paquete EXCLUDE_FROM_ALL FILES_MATCHING PATTERN "*.h")
+install(FILES adaptadores/word/AplicacionWord.h DESTINATION include/adaptadores/word COMPONENT paquete EXCLUDE_FROM_ALL)
+install(FILES programas/biblioteca/AjustesCompartidos.h
+        DESTINATION include/programas/biblioteca COMPONENT paquete EXCLUDE_FROM_ALL)
 install(DIRECTORY docs DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
 if(TARGET analizador_qt)
   # What whoever gets Qt's code must get with it.

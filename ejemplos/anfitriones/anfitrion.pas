@@ -2,7 +2,8 @@
   of its facts.
 
     fpc anfitrion.pas -Fl/path/lib
-    ./anfitrion [--json] VOCABULARIES TABLES DEED.docx }
+    ./anfitrion [--json] VOCABULARIES TABLES DEED.docx
+    anfitrion [--json] VOCABULARIES TABLES --word          (Windows: the deed that is open in Word) }
 program anfitrion;
 
 {$IFDEF FPC}{$MODE DELPHI}{$ENDIF}
@@ -69,7 +70,7 @@ begin
   try
     Sesion := TAnalizador.Create(Argumento(Primero), Argumento(Primero + 1));
     try
-      Sesion.AnalizaFichero(Argumento(Primero + 2));
+      if ParamStr(Primero + 2) = '--word' then Sesion.AnalizaWord else Sesion.AnalizaFichero(Argumento(Primero + 2));
       if Primero = 2 then Escribe(Sesion.Texto('') + #10) else EscribeInforme(Sesion);
     finally
       Sesion.Free;

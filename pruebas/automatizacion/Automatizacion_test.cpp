@@ -7,22 +7,26 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <regex>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "adaptadores/word/ObjetoWord.h"
 #include "plataforma/Ansi.h"
+#include "plataforma/Rficheros.h"
 #include "pruebas/automatizacion/Maquina.h"
 #include "pruebas/automatizacion/Teclado.h"
-#include "pruebas/word/Compraventa.h"
+#include "pruebas/automatizacion/WordQueVuelve.h"
 #include "pruebas/word/WordDePrueba.h"
 
 namespace analizador {
 namespace {
 
 using namespace pruebas;
+using testing::Each;
 using testing::HasSubstr;
+using testing::SizeIs;
 
 constexpr const wchar_t* CLASE = L"Software\\Classes\\CLSID\\{174AE529-FF7C-496E-B3FC-56DD4165775B}";
 constexpr const wchar_t* NOMBRE = L"Software\\Classes\\Analizador.Escritura";
@@ -33,6 +37,22 @@ std::string Ejemplo(const char* nombre) {
     std::string texto{std::istreambuf_iterator<char>(entrada), {}};
     std::replace(texto.begin(), texto.end(), '\n', '\r');
     return AnsiDeUtf8(texto);
+}
+
+// The macro for Word's editor as a script: without what a script has not (types, jumps on errors, Word
+// itself).
+std::string MacroDeWord() {
+    std::ifstream entrada(MACRO_DE_WORD, std::ios::binary);
+    std::string macro{std::istreambuf_iterator<char>(entrada), {}};
+    std::erase(macro, '\r');
+    for (const auto& [vba, vbs] : {std::pair("Attribute .*\n", ""),
+                                   {" As (Object|String)\\b", ""},
+                                   {" *On Error GoTo .*\n", ""},
+                                   {"\nFallo:\n", "\n"},
+                                   {"MsgBox (.*), vb\\w+, \"Analizador\"", "WScript.Echo $1"},
+                                   {"\\bApplication\\b", "Nothing"}})
+        macro = std::regex_replace(macro, std::regex(vba), vbs);
+    return macro + "AnalizaEscritura\n";
 }
 
 std::wstring Biblioteca() {
@@ -108,6 +128,20 @@ TEST_F(Automatizacion, UnaMacroLeeLosOtorgantes) {
               "Cuantia 1000,50\n"
               "Finca 1\n");
     EXPECT_EQ(Word.Objetos(), 0);
+}
+
+TEST_F(Automatizacion, LaMacroDeWordMuestraUnResumen) {
+    const auto guion = FicheroTemporal_({}, "macro", "vbs");
+    std::ofstream(guion, std::ios::binary) << MacroDeWord();
+    const auto macro = Ejecuta(L"cscript //nologo " + Entrecomilla(guion));
+    std::filesystem::remove(guion);
+    EXPECT_EQ(macro.Salida,
+              "Protocolo 2005, 02/03/2012\n"
+              "ALFONSO REQUEJO\n"
+              "\n"
+              "COMPRAVENTA / COMPRAVENDA / VENTA / VENDA\n"
+              "JUAN PEREZ GIL, 12345678Z\n"
+              "LUIS SANZ RUBIO, 00000001R\n");
 }
 
 // A macro asks a date for its day, month and year.
@@ -198,6 +232,22 @@ TEST_F(Automatizacion, LoRevisadoSeAceptaOSeCancela) {
     EXPECT_EQ(Word.Objetos(), 0);
 }
 #endif
+// While Word answers, an event may run another procedure of the macro's program.
+TEST_F(Automatizacion, MientrasAnalizaRechazaLoDemas) {
+    const auto escritura = Escritura();
+    std::vector<std::string> rechazos;
+    const auto otro = WordQueVuelve([&] {
+        rechazos.push_back(Mensaje([&] { return escritura.Texto("Notario"); }));
+        rechazos.push_back(Mensaje([&] { return escritura.Verdad("Analiza", Word.Aplicacion(), true); }));
+    });
+    IDispatch* const suAplicacion = otro.get();
+    EXPECT_THAT(Mensaje([&] { return escritura.Verdad("Analiza", suAplicacion, true); }),
+                HasSubstr("documento activo"));
+    EXPECT_THAT(rechazos, SizeIs(2));
+    EXPECT_THAT(rechazos, Each(HasSubstr("el análisis anterior no ha terminado")));
+    EXPECT_FALSE(escritura.Verdad("Analiza", Word.Aplicacion(), true));
+    EXPECT_EQ(escritura.Entero("NumeroProtocolo"), 2005);
+}
 
 // The failure of a call in the middle: told once, without the deed's words, and the next analysis goes well.
 TEST_F(Automatizacion, UnFalloDeWordNoDiceNadaDeLaEscritura) {

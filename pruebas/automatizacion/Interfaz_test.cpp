@@ -10,6 +10,7 @@
 
 #include "programas/biblioteca/analizador.h"
 #include "pruebas/automatizacion/Teclado.h"
+#include "pruebas/automatizacion/WordQueVuelve.h"
 #include "pruebas/word/WordDePrueba.h"
 
 namespace analizador {
@@ -100,6 +101,25 @@ TEST_F(InterfazWindows, UnTextoSeRevisaEnCualquierHilo) {
     std::thread(revisa, static_cast<WORD>(VK_ESCAPE)).join();
 }
 #endif
+// While Word answers, an event may make the host call again.
+TEST_F(InterfazWindows, MientrasAnalizaRechazaLoDemas) {
+    constexpr const char* RECHAZO = "la sesión está ocupada con otra llamada";
+    int veces = 0;
+    const auto word = pruebas::WordQueVuelve([&] {
+        ++veces;
+        EXPECT_EQ(Texto("/Pizarra"), "(null)");
+        EXPECT_EQ(Error(), RECHAZO);
+        EXPECT_EQ(analizador_analiza_texto(Sesion.get(), ESCRITURA, 0), ANALIZADOR_MAL_USO);
+        EXPECT_EQ(Error(), RECHAZO);
+        analizador_cierra(Sesion.get());
+        EXPECT_EQ(Error(), std::string(RECHAZO) + ": no se cierra");
+    });
+    EXPECT_EQ(analizador_analiza_word(Sesion.get(), static_cast<IDispatch*>(word.get()), 0),
+              ANALIZADOR_NO_ANALIZADA);
+    EXPECT_EQ(veces, 1);
+    ASSERT_EQ(analizador_analiza_texto(Sesion.get(), ESCRITURA, 0), ANALIZADOR_BIEN) << Error();
+    EXPECT_EQ(Texto("/Cabecera/NumeroProtocolo"), "2005");
+}
 
 TEST_F(InterfazWindows, SinDocumentoSeDice) {
     auto& word = pruebas::TWordDePrueba::EnMarcha();

@@ -1,4 +1,5 @@
-# The package has all that it needs, in one folder. Run with -DOBRA=<build folder> -DDONDE=<folder for it>.
+# The package has all that it needs, in one folder, and the host in C++ is built with it alone. Run with
+# -DOBRA=<build folder> -DDONDE=<folder for it> -DCOMPILADOR=<C++ compiler>.
 file(REMOVE_RECURSE ${DONDE})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${OBRA} --component paquete --prefix ${DONDE} OUTPUT_QUIET
                 COMMAND_ERROR_IS_FATAL ANY)
@@ -12,3 +13,6 @@ foreach(fichero ${licencias} analizador.dll analizador.h libanalizador.dll.a ana
     message(SEND_ERROR "${fichero} is not in the package")
   endif()
 endforeach()
+execute_process(
+  COMMAND ${COMPILADOR} -std=c++20 -static -Iinclude anfitrion_word.cpp libanalizador.dll.a -o anfitrion_word.exe
+  WORKING_DIRECTORY ${DONDE} COMMAND_ERROR_IS_FATAL ANY)

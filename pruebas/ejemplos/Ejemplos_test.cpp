@@ -46,6 +46,7 @@ TAnalizada EnWord(const std::string& nombre) {
     servidor.Abre(pruebas::EscrituraDeEjemplo(nombre));
     auto analizada = std::make_unique<TAnalisisEscritura>(std::make_unique<TAplicacionWord>(), SIN_REVISION);
     EXPECT_GT(servidor.Llamadas(), 100);
+    testing::Test::RecordProperty("llamadas", servidor.Llamadas());
     EXPECT_EQ(servidor.Objetos(), 0);
     return analizada;
 }

@@ -119,6 +119,11 @@ TEST_F(AplicacionWordPrueba, ElErrorDiceQueSePidioYNoElTexto) {
     EXPECT_EQ(mensaje.find("Uno"), std::string::npos);
 }
 
+TEST_F(AplicacionWordPrueba, DiceQueMiembroNoTieneWord) {
+    EXPECT_THAT(Mensaje([&] { (void)Word.Orden().Entero("NoEsNinguno"); }),
+                HasSubstr("(Application.NoEsNinguno, 0x80020006)"));
+}
+
 // A cell mark is one position of Word's and two characters of its text.
 TEST_F(AplicacionWordPrueba, LaMarcaDeCeldaEsUnaPosicion) {
     Word.Abre({"Uno\r\aDos\r\a\r\aTres\r", {}, {}});

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,7 @@ namespace {
 
 using pruebas::TFallo;
 using pruebas::TWordDePrueba;
+using testing::AnyOf;
 using testing::HasSubstr;
 
 const std::vector<std::string_view> COMPRAVENTA = {
@@ -57,16 +60,39 @@ class FallosWord : public testing::Test {
         EXPECT_EQ(diario.back(), "cierra");
         EXPECT_EQ(std::count(diario.begin(), diario.end(), "cierra"), 1);
     }
+    // The adapter is done with Word.
+    void CompruebaQueNoTieneNada() {
+        EXPECT_EQ(TWordDePrueba::EnMarcha().Objetos(), 0);
+        EXPECT_EQ(TWordDePrueba::EnMarcha().Referencias(), Referencias);
+    }
     void CompruebaQueAhoraSiVa() {
         Abre();
         EXPECT_EQ(Analiza(), "");
         EXPECT_EQ(Sesion.Pizarra, Pizarra);
-        EXPECT_EQ(TWordDePrueba::EnMarcha().Objetos(), 0);
+        CompruebaQueNoTieneNada();
+    }
+    // Of each member its name, its first calls and some of the later ones.
+    [[nodiscard]] static std::map<int, std::string> LlamadasElegidas() {
+        const auto& word = TWordDePrueba::EnMarcha();
+        std::map<int, std::string> elegidas;
+        std::map<std::string, int> veces;
+        for (int n = 1; n <= word.Llamadas(); ++n) {
+            const std::string miembro = word.Llamada(n);
+            if (veces[miembro]++ < 3 || n % 10 == 0) elegidas[n] = miembro;
+        }
+        return elegidas;
+    }
+    static void CompruebaSinPalabrasDeLaEscritura(const std::string& mensaje) {
+        constexpr std::size_t CORTA = 4;
+        std::istringstream palabras(Parrafos(COMPRAVENTA) + VARIABLES[1].Valor + " " + FINCAS[1].Nombre);
+        for (std::string palabra; palabras >> palabra;)
+            if (palabra.size() > CORTA) EXPECT_EQ(mensaje.find(palabra), std::string::npos) << mensaje;
     }
 
     TEscena Escena{COMPRAVENTA, VARIABLES, FINCAS};
     TAplicacionWord Aplicacion{std::chrono::milliseconds(500)};
     TClassAnalizadorAbierto Sesion{nullptr, &Aplicacion};
+    const int Referencias = TWordDePrueba::EnMarcha().Referencias();
     const std::string Pizarra = [this] { return (void)Escena.Sesion.Analiza(true), Escena.Sesion.Pizarra; }();
 };
 
@@ -76,47 +102,62 @@ TEST_F(FallosWord, SinFallosLeeLoMismoQueEnMemoria) {
     EXPECT_EQ(Sesion.Pizarra, Pizarra);
     EXPECT_EQ(Sesion.Fincas, (std::vector<std::string>{"1", "2"}));
     EXPECT_EQ(Sesion.Empleado, "MGR");
-    EXPECT_EQ(TWordDePrueba::EnMarcha().Objetos(), 0);
+    CompruebaQueNoTieneNada();
     EXPECT_EQ(TWordDePrueba::EnMarcha().SeleccionDelUsuario(), (TIntervalo{0, 0}));
 }
 
 TEST_F(FallosWord, CadaLlamadaQueFallaSeDiceUnaVez) {
     ASSERT_EQ(Analiza(), "");
-    const int llamadas = TWordDePrueba::EnMarcha().Llamadas();
-    const int hastaElDialogo = llamadas - 3;  // the window is closed when the variable XML is read
-    ASSERT_GT(hastaElDialogo, 100);
-    for (int n = 1; n <= hastaElDialogo; n += 1 + n / 8) {
+    const auto elegidas = LlamadasElegidas();
+    ASSERT_GT(elegidas.size(), 80U);
+    for (const auto& [n, miembro] : elegidas) {
         SCOPED_TRACE(n);
         Abre();
         TWordDePrueba::EnMarcha().Falla(TFallo::Error, n);
-        EXPECT_THAT(Analiza(), HasSubstr("0x80004005"));
+        const std::string mensaje = Analiza();
+        EXPECT_THAT(mensaje, HasSubstr("." + miembro + ", 0x"));
+        // Asked for the number of a member, Word has no words of its own.
+        EXPECT_THAT(mensaje, AnyOf(HasSubstr("0x800a11fd): This command is not available. [Microsoft Word]"),
+                                   HasSubstr("0x80004005)")));
+        CompruebaSinPalabrasDeLaEscritura(mensaje);
         CompruebaVentanaCerrada();
-        EXPECT_EQ(TWordDePrueba::EnMarcha().Objetos(), 0);
+        CompruebaQueNoTieneNada();
     }
     CompruebaQueAhoraSiVa();
 }
 
 TEST_F(FallosWord, UnWordOcupadoUnRatoNoSeNota) {
-    TWordDePrueba::EnMarcha().Falla(TFallo::Ocupado, 40, 3);
-    EXPECT_EQ(Analiza(), "");
-    EXPECT_EQ(Sesion.Pizarra, Pizarra);
+    for (const int n : {1, 2, 3, 40, 150}) {
+        SCOPED_TRACE(n);
+        Abre();
+        TWordDePrueba::EnMarcha().Falla(TFallo::Ocupado, n, 3);
+        EXPECT_EQ(Analiza(), "");
+        EXPECT_EQ(Sesion.Pizarra, Pizarra);
+        CompruebaQueNoTieneNada();
+    }
 }
 
 TEST_F(FallosWord, UnWordOcupadoSinFinSeDice) {
-    TWordDePrueba::EnMarcha().Falla(TFallo::Ocupado, 40, 1'000'000);
-    EXPECT_THAT(Analiza(), HasSubstr(std::string("Word está ocupado"_ansi)));
-    CompruebaVentanaCerrada();
+    for (const int n : {1, 40, 150}) {
+        SCOPED_TRACE(n);
+        Abre();
+        TWordDePrueba::EnMarcha().Falla(TFallo::Ocupado, n, 1'000'000);
+        EXPECT_THAT(Analiza(), HasSubstr(std::string("Word está ocupado"_ansi)));
+        CompruebaVentanaCerrada();
+        CompruebaQueNoTieneNada();
+    }
     CompruebaQueAhoraSiVa();
 }
 
 TEST_F(FallosWord, UnWordQueMuereSeDice) {
-    for (const int n : {1, 25, 120}) {
+    ASSERT_EQ(Analiza(), "");
+    const int ultima = TWordDePrueba::EnMarcha().Llamadas();
+    for (const int n : {1, 2, 25, 60, 120, 180, ultima}) {
         SCOPED_TRACE(n);
         Abre();
         TWordDePrueba::EnMarcha().Falla(TFallo::Muere, n);
         EXPECT_THAT(Analiza(), HasSubstr("Word se ha cerrado"));
         CompruebaVentanaCerrada();
-        EXPECT_FALSE(TWordDePrueba::EnMarcha().Objetos());
         CompruebaQueAhoraSiVa();
     }
 }

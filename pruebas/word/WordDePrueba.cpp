@@ -96,6 +96,15 @@ void TWordDePrueba::Falla(TFallo fallo, int llamada, int veces) const {
     FAplicacion->Haz("Prueba_Falla", static_cast<int>(fallo), llamada, veces);
 }
 
+std::string TWordDePrueba::Llamada(int n) const {
+    return AnsiDeUtf16(FAplicacion->Texto("Prueba_Llamada", n));
+}
+
+int TWordDePrueba::Referencias() const {
+    Aplicacion()->AddRef();
+    return static_cast<int>(Aplicacion()->Release());
+}
+
 TIntervalo TWordDePrueba::SeleccionDelUsuario() const {
     return {FAplicacion->Entero("Prueba_SeleccionInicio"), FAplicacion->Entero("Prueba_SeleccionFin")};
 }

@@ -3,6 +3,7 @@
 // The test server as the tests see it: the Word that is running.
 
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "adaptadores/word/ObjetoWord.h"
@@ -38,8 +39,12 @@ class TWordDePrueba {
     void Falla(TFallo fallo, int llamada, int veces = 1) const;
     // The calls of clients since the last Abre or Falla.
     [[nodiscard]] int Llamadas() const { return FAplicacion->Entero("Prueba_Llamadas"); }
+    // The member that the n-th of them (1-based) asked for.
+    [[nodiscard]] std::string Llamada(int n) const;
     // The objects that clients hold, the application not counted.
     [[nodiscard]] int Objetos() const { return FAplicacion->Entero("Prueba_Objetos"); }
+    // How many references to the application this program holds.
+    [[nodiscard]] int Referencias() const;
     [[nodiscard]] TIntervalo SeleccionDelUsuario() const;
     [[nodiscard]] bool Vive() const;
 

@@ -114,7 +114,9 @@ HRESULT TObjetoServidor::Invoke(DISPID numero, REFIID, LCID, WORD como, DISPPARA
     // Kept alive by itself: the call may let go of the last reference.
     const auto guarda = Comparte(static_cast<IDispatch*>(this));
     try {
-        if (const HRESULT fallo = Anota(nombre); FAILED(fallo)) return fallo;
+        const HRESULT fallo = Anota(nombre);
+        if (fallo == E_FAIL) throw TErrorDeWord{FALLO_CUALQUIERA, u"This command is not available."};
+        if (FAILED(fallo)) return fallo;
         if (!nombre.starts_with(ORDEN)) Comprueba();
         TVariante valor = miembro(TArgumentos(*parametros, (como & DISPATCH_PROPERTYPUT) != 0));
         if (resultado != nullptr) std::swap(*resultado, *valor.Recibe());
@@ -131,9 +133,10 @@ HRESULT TObjetoServidor::Invoke(DISPID numero, REFIID, LCID, WORD como, DISPPARA
 HRESULT TObjetoServidor::Anota(std::wstring_view miembro) {
     TLibros& libros = *FLibros;
     if (libros.Interna || miembro.starts_with(ORDEN)) return S_OK;
-    ++libros.Llamadas;
-    const bool toca = libros.EnLaLlamada > 0 && libros.Llamadas >= libros.EnLaLlamada &&
-                      libros.Llamadas < libros.EnLaLlamada + libros.Veces;
+    libros.Llamadas.emplace_back(miembro);
+    const int esta = static_cast<int>(libros.Llamadas.size());
+    const bool toca =
+        libros.EnLaLlamada > 0 && esta >= libros.EnLaLlamada && esta < libros.EnLaLlamada + libros.Veces;
     if (!toca) return S_OK;
     switch (libros.Fallo) {
         case TFallo::Ocupado:

@@ -18,8 +18,8 @@ enum class TFallo { Ninguno, Error, Ocupado, Muere };
 
 // The server's books, common to its objects.
 struct TLibros {
-    int Llamadas = 0;  // of clients, the test's own orders not counted
-    int Objetos = 0;   // alive, the application not counted
+    std::vector<std::wstring> Llamadas;  // the members that clients asked for, the test's own orders left out
+    int Objetos = 0;                     // alive, the application not counted
     TFallo Fallo = TFallo::Ninguno;
     int EnLaLlamada = 0;  // the first that fails, 0 none
     int Veces = 0;        // how many fail from there on

@@ -101,14 +101,20 @@ void AnadeOrdenesDeVentana(TObjetoServidor& aplicacion, const TEstadoComun& esta
 void AnadeOrdenesDeFallo(TObjetoServidor& aplicacion, const TEstadoComun& estado) {
     aplicacion.Anade(L"Prueba_Falla", [=](const TArgumentos& argumentos) {
         TLibros& libros = *estado->Libros;
-        libros.Llamadas = 0;
+        libros.Llamadas.clear();
         libros.Fallo = static_cast<TFallo>(argumentos.Entero(0));
         libros.EnLaLlamada = argumentos.Entero(1);
         libros.Veces = argumentos.Entero(2);
         return TVariante();
     });
-    aplicacion.Anade(L"Prueba_Llamadas",
-                     [=](const TArgumentos&) { return TVariante(estado->Libros->Llamadas); });
+    aplicacion.Anade(L"Prueba_Llamadas", [=](const TArgumentos&) {
+        return TVariante(static_cast<int>(estado->Libros->Llamadas.size()));
+    });
+    aplicacion.Anade(L"Prueba_Llamada", [=](const TArgumentos& argumentos) {
+        const auto cual = static_cast<std::size_t>(argumentos.Entero(0) - 1);
+        const std::wstring& miembro = estado->Libros->Llamadas.at(cual);
+        return TVariante(std::u16string_view(std::u16string(miembro.begin(), miembro.end())));
+    });
     aplicacion.Anade(L"Prueba_Objetos",
                      [=](const TArgumentos&) { return TVariante(estado->Libros->Objetos); });
     aplicacion.Anade(L"Prueba_Acaba", [](const TArgumentos&) {

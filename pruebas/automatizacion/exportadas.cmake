@@ -1,0 +1,26 @@
+# The library for Windows shows the functions of its header and what its list of exports says, and nothing else. Run with
+# -DBIBLIOTECA=<dll> -DCARPETA=<programas/biblioteca> -DOBJDUMP=<program>.
+file(STRINGS ${CARPETA}/analizador.h lineas REGEX "^ANALIZADOR_API ")
+string(REGEX MATCHALL "analizador_[a-z0-9_]+\\(" esperadas "${lineas}")
+list(TRANSFORM esperadas REPLACE "\\(" "")
+file(STRINGS ${CARPETA}/exportadas.def lineas REGEX "^    [A-Za-z_]")
+foreach(linea IN LISTS lineas)
+  string(REGEX MATCH "[A-Za-z0-9_]+" nombre "${linea}")
+  list(APPEND esperadas ${nombre})
+endforeach()
+
+execute_process(COMMAND ${OBJDUMP} -p ${BIBLIOTECA} OUTPUT_VARIABLE volcado COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX REPLACE ".*\\[Ordinal/Name Pointer\\] Table([^\n]*)\n" "" tabla "${volcado}")
+string(REGEX REPLACE "\n[ \t]*\n.*" "" tabla "${tabla}")
+string(REGEX MATCHALL "[A-Za-z_][A-Za-z0-9_]+(\n|$)" exportadas "${tabla}")
+list(TRANSFORM exportadas STRIP)
+
+list(SORT esperadas)
+list(SORT exportadas)
+list(LENGTH esperadas cuantas)
+if(cuantas LESS 30)
+  message(SEND_ERROR "only ${cuantas} names read in ${CARPETA}")
+endif()
+if(NOT esperadas STREQUAL exportadas)
+  message(SEND_ERROR "expected:\n  ${esperadas}\nexported:\n  ${exportadas}")
+endif()
