@@ -57,11 +57,13 @@ TLecturaFichero LeeUnaVez(const std::filesystem::path& fichero, const TMarcaFich
 // What a clock of coarse steps does not show: that a file whose mark is recent changed between two marks
 // alike, which its bytes tell when they are read again; and that one just emptied is about to be filled,
 // which is waited for a little.
-bool PuedeCambiarSinVerse(const std::filesystem::path& fichero, const TLecturaFichero& lectura, int intento) {
+bool PuedeCambiarSinVerse(const std::filesystem::path& fichero, const TLecturaFichero& lectura, int intento,
+                          const TTomaMarca& marca) {
     constexpr int INTENTOS_VACIO = 30;
     if (lectura.Estado != TEstadoLectura::Entera || !lectura.Marca.Reciente) return false;
     if (lectura.Bytes.empty()) return intento < INTENTOS_VACIO;
-    return LeeUnaVez(fichero, lectura.Marca).Bytes != lectura.Bytes;
+    return LeeUnaVez(fichero, lectura.Marca).Bytes != lectura.Bytes ||
+           !MismaMarca(lectura.Marca, marca(fichero));
 }
 
 }  // namespace
@@ -76,7 +78,7 @@ TLecturaFichero LeeFichero(const std::filesystem::path& fichero, const TTomaMarc
         lectura = LeeUnaVez(fichero, antes);
         const TMarcaFichero despues = marca(fichero);
         if (MismaMarca(antes, despues) && lectura.Estado != TEstadoLectura::Cambia &&
-            !PuedeCambiarSinVerse(fichero, lectura, i))
+            !PuedeCambiarSinVerse(fichero, lectura, i, marca))
             return lectura;
         antes = despues;
     }

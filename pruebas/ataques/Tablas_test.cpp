@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstdio>
@@ -72,14 +73,30 @@ void Escribe(const fs::path& fichero, const std::string& bytes, TModo modo) {
     if (escritos != static_cast<ssize_t>(bytes.size())) throw std::runtime_error("not written");
 }
 
-// The versions that a reading found, all its rows together; one, when it is whole.
-using TVersiones = std::set<std::string>;
+// The version of each row that a reading found, in order; none when it was refused.
+using TVersiones = std::vector<std::string>;
+
+constexpr const char* FALTA = "missing";
 
 struct TLecturas {
     int Enteras = 0;
+    int AMedias = 0;  // as the file stood while it was being rewritten: new rows first, then old ones or none
     int Mezcladas = 0;
     int Rehusadas = 0;
-    TVersiones Vistas;
+    std::set<std::string> Vistas;
+
+    void Anota(const TVersiones& filas) {
+        if (filas.empty()) return void(++Rehusadas);
+        const auto cambio =
+            std::ranges::find_if(filas, [&](const auto& fila) { return fila != filas.front(); });
+        const bool enDos =
+            std::all_of(cambio, filas.end(), [&](const auto& fila) { return fila == *cambio; });
+        const bool entera = cambio == filas.end() && filas.front() != FALTA;
+        const bool nuevasAntes =
+            cambio != filas.end() && enDos && (*cambio == FALTA || *cambio < filas.front());
+        ++(entera ? Enteras : nuevasAntes ? AMedias : Mezcladas);
+        if (entera) Vistas.insert(filas.front());
+    }
 };
 
 // What both processes know.
@@ -116,36 +133,41 @@ TLecturas LeeMientrasSeEscribe(const std::function<void(std::uint64_t)>& escribe
     TLecturas lecturas;
     int estado = 0;
     while (::waitpid(escritor, &estado, WNOHANG) == 0) {
-        const auto leidas = lee();
-        ++(leidas.empty() ? lecturas.Rehusadas : leidas.size() == 1 ? lecturas.Enteras : lecturas.Mezcladas);
-        lecturas.Vistas.insert(leidas.begin(), leidas.end());
+        lecturas.Anota(lee());
         comun->Basta = lecturas.Enteras >= 20 && lecturas.Vistas.size() >= 4;
     }
     EXPECT_TRUE(WIFEXITED(estado) && WEXITSTATUS(estado) == 0);
-    EXPECT_EQ(lee(), TVersiones{Cifras(comun->Escrita)}) << "at last the newest";
-    std::printf("%llu versions written, %d readings whole, %d mixed, %d refused, %zu versions seen\n",
-                static_cast<unsigned long long>(comun->Escrita.load()), lecturas.Enteras, lecturas.Mezcladas,
-                lecturas.Rehusadas, lecturas.Vistas.size());
+    TLecturas ultima;
+    ultima.Anota(lee());
+    EXPECT_EQ(ultima.Vistas, std::set<std::string>{Cifras(comun->Escrita)}) << "at last the newest";
+    std::printf(
+        "%llu versions written, %d readings whole, %d half-way, %d mixed, %d refused, %zu versions seen\n",
+        static_cast<unsigned long long>(comun->Escrita.load()), lecturas.Enteras, lecturas.AMedias,
+        lecturas.Mezcladas, lecturas.Rehusadas, lecturas.Vistas.size());
     EXPECT_EQ(lecturas.Mezcladas, 0);
     EXPECT_TRUE(comun->Basta);
     return lecturas;
 }
 
-TVersiones VersionesDe(TTabla& tabla, int esperadas) {
+TVersiones VersionesDe(TTabla& tabla, std::size_t esperadas) {
     TVersiones versiones;
-    int filas = 0;
-    for (; !tabla.Fin(); tabla.Siguiente(), ++filas) versiones.insert(tabla.Texto("VERSION"));
-    if (filas != esperadas) versiones.insert({"rows missing", "so no version"});
+    for (; !tabla.Fin(); tabla.Siguiente()) versiones.push_back(tabla.Texto("VERSION"));
+    versiones.resize(esperadas, FALTA);
     return versiones;
 }
 
 class Reemplazo : public testing::TestWithParam<TModo> {
   protected:
-    // A refusal is right only where there was nothing whole to read: while the file was being filled.
-    void EsperaSinRechazos(const TLecturas& lecturas) {
+    // Only where the file itself stood half-way may a reading be refused or be half-way: never where another
+    // file took its place.
+    void EsperaSegunModo(const TLecturas& lecturas) {
         if (GetParam() != TModo::Vaciandolo) {
             EXPECT_EQ(lecturas.Rehusadas, 0);
         }
+        if (GetParam() == TModo::PorOtro) {
+            EXPECT_EQ(lecturas.AMedias, 0);
+        }
+        EXPECT_LE(lecturas.AMedias, 10 + lecturas.Enteras / 20);
     }
 
     TCarpeta Carpeta;
@@ -155,7 +177,7 @@ TEST_P(Reemplazo, UnaTablaEsTodaDeUnaVersion) {
     const auto fichero = Carpeta / "PILA.DBF";
     EscribeFichero(fichero, Tabla(0));
     TProveedorDbase proveedor(Carpeta.GetRuta());
-    EsperaSinRechazos(LeeMientrasSeEscribe(
+    EsperaSegunModo(LeeMientrasSeEscribe(
         [&](std::uint64_t version) { Escribe(fichero, Tabla(version), GetParam()); },
         [&]() -> TVersiones {
             try {
@@ -168,11 +190,11 @@ TEST_P(Reemplazo, UnaTablaEsTodaDeUnaVersion) {
 }
 
 TEST_P(Reemplazo, UnTramoDeUnaTablaEnOrdenEsTodoDeUnaVersion) {
-    constexpr int TRAMO = 1000;
+    constexpr std::size_t TRAMO = 1000;
     const auto fichero = Carpeta / "PILA.DBF";
     EscribeFichero(fichero, Tabla(0));
     TProveedorDbase proveedor(Carpeta.GetRuta());
-    EsperaSinRechazos(LeeMientrasSeEscribe(
+    EsperaSegunModo(LeeMientrasSeEscribe(
         [&](std::uint64_t version) {
             Escribe(fichero, Tabla(version), GetParam());
             AnotaOrden(fichero, "CLAVE");
@@ -194,14 +216,13 @@ TEST_P(Reemplazo, UnTramoDeUnaTablaEnOrdenEsTodoDeUnaVersion) {
 TEST_P(Reemplazo, UnaListaDePalabrasEsTodaDeUnaVersion) {
     const auto fichero = Carpeta / "CASTELLANO.INI";
     EscribeFichero(fichero, Lista(0));
-    EsperaSinRechazos(LeeMientrasSeEscribe(
+    EsperaSegunModo(LeeMientrasSeEscribe(
         [&](std::uint64_t version) { Escribe(fichero, Lista(version), GetParam()); },
         [&] {
             const auto lista = AbreFicheroIni(fichero);
             TVersiones versiones;
             for (int i = 0; i < SECCIONES; ++i)
-                versiones.insert(lista->LeeTexto("S" + std::to_string(i), "1", "missing"));
-            if (versiones.contains("missing")) versiones.insert("so no version");
+                versiones.push_back(lista->LeeTexto("S" + std::to_string(i), "1", FALTA));
             return versiones;
         }));
 }
@@ -209,14 +230,14 @@ TEST_P(Reemplazo, UnaListaDePalabrasEsTodaDeUnaVersion) {
 TEST_P(Reemplazo, UnDocumentoEsTodoDeUnaVersion) {
     const auto fichero = Carpeta / "escritura.docx";
     EscribeFichero(fichero, Documento(0));
-    EsperaSinRechazos(
+    EsperaSegunModo(
         LeeMientrasSeEscribe([&](std::uint64_t version) { Escribe(fichero, Documento(version), GetParam()); },
                              [&]() -> TVersiones {
                                  try {
                                      const auto texto = TextoDe(fichero);
                                      TVersiones versiones;
                                      for (std::size_t i = 0; i + 9 <= texto.size(); i += 9)
-                                         versiones.insert(texto.substr(i, 8));
+                                         versiones.push_back(texto.substr(i, 8));
                                      return versiones;
                                  } catch (const ErrorDocumento&) {
                                      return {};
