@@ -51,15 +51,19 @@ bool SonElMismo(const std::filesystem::path& uno, const std::filesystem::path& o
 }
 
 // The document with the bookmarks, read back to make sure that nothing else changed. Empty when there is
-// nothing to change.
+// nothing to change. Of the two readings only one is in memory at a time.
 std::string ComponeNuevo(std::string_view bytes, const TContenidoDocumento& leido,
                          const std::vector<TMarcador>& marcadores) {
-    const TLecturaDocx lectura(bytes);
-    const auto cambios = MarcadoresQueCambian(lectura, marcadores);
-    if (cambios.empty()) return {};
-    auto principal = lectura.Principal;
-    principal.Utf8 = InjertaMarcadores(lectura, cambios);
-    auto nuevo = lectura.Paquete.ConParte(lectura.Partes.Principal, CodificaXml(principal));
+    std::vector<TMarcador> cambios;
+    std::string nuevo;
+    {
+        const TLecturaDocx lectura(bytes);
+        cambios = MarcadoresQueCambian(lectura, marcadores);
+        if (cambios.empty()) return {};
+        auto principal = lectura.Principal;
+        principal.Utf8 = InjertaMarcadores(lectura, cambios);
+        nuevo = lectura.Paquete.ConParte(lectura.Partes.Principal, CodificaXml(principal));
+    }
     if (!EsElMismoConMarcadores(TLecturaDocx(nuevo).Contenido(), leido, cambios))
         throw FalloDocx("no se puede guardar: el documento nuevo no se leería igual");
     return nuevo;

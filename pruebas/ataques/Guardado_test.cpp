@@ -100,6 +100,7 @@ class Guardado : public testing::Test {
 TEST_F(Guardado, MuertoEnCualquierLlamadaAlSistema) {
     if (!SePuedeRastrear()) GTEST_SKIP() << "no process may be traced here";
     const auto paradas = CuentaParadas();
+    int muertos = 0;
     const bool todas = Veces("ATAQUES_LLAMADAS", 0) != 0;
     for (auto mortal = DesdeParada(paradas, todas); mortal < paradas.Todas; ++mortal) {
         SCOPED_TRACE(mortal);
@@ -107,8 +108,11 @@ TEST_F(Guardado, MuertoEnCualquierLlamadaAlSistema) {
         const auto final = Rastrea(Banco, PROGRAMA_ANALIZA, {"--guarda", Fichero},
                                    [&](std::uint64_t parada) { return parada == mortal ? SIGKILL : SIGUE; });
         EXPECT_TRUE(final.Senal == SIGKILL || final.Codigo == 0) << final.Senal;
+        muertos += final.Senal == SIGKILL ? 1 : 0;
         EsperaEntero();
     }
+    std::printf("%d of %llu ended by the signal\n", muertos,
+                static_cast<unsigned long long>(paradas.Todas - DesdeParada(paradas, todas)));
     EXPECT_GT(ConViejo, 0);
     EXPECT_GT(ConNuevo, 0);
     EXPECT_GT(ConRestos, 0);
