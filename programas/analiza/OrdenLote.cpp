@@ -1,6 +1,8 @@
 #include "programas/analiza/OrdenLote.h"
 
 #include <sched.h>
+#include <stdlib.h>  // NOLINT(modernize-deprecated-headers): setenv
+#include <time.h>    // NOLINT(modernize-deprecated-headers): tzset
 #include <unistd.h>
 
 #include <algorithm>
@@ -148,6 +150,10 @@ int TOrdenLote::Termina() {
 }  // namespace
 
 int AnalizaLote(TListaEscrituras& lista, const TOpcionesAnaliza& opciones) {
+    // The reader of archives asks for the time zone at every entry. Where it has no name the system reads its
+    // file again each time, one thread after another.
+    ::setenv("TZ", ":/etc/localtime", 0);
+    ::tzset();
     std::optional<TOrdenLote> orden;
     try {
         orden.emplace(lista, opciones);
