@@ -148,10 +148,10 @@ class NoSonFicheros : public testing::Test {
 };
 
 TEST_F(NoSonFicheros, NiCarpetasNiTuberiasNiDispositivos) {
+    EsperaRechazo(Banco.Documentos(), "es una carpeta");  // one without deeds
     const auto tuberia = Banco.Documento("tuberia.docx");
     ASSERT_EQ(::mkfifo(tuberia.c_str(), 0600), 0);
     EsperaRechazo(tuberia, "no es un fichero que se pueda leer");
-    EsperaRechazo(Banco.Documentos(), "es una carpeta");
     for (const char* dispositivo : {"/dev/null", "/dev/zero", "/dev/full", "/dev/tty"})
         EsperaRechazo(dispositivo, "no es un fichero que se pueda leer");
     EsperaRechazo("/proc/self/mem", "");
