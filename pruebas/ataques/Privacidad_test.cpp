@@ -158,7 +158,7 @@ TEST_F(Privacidad, SiNoSePuedeGuardar) {
 
 TEST_F(Privacidad, ConPocaMemoria) {
     if (SANEADO) GTEST_SKIP() << "the sanitizer needs all the address space";
-    for (const std::uint64_t mib : {16, 20, 24, 28}) {
+    for (const std::uint64_t mib : {16U, 20U, 24U, 28U}) {
         const auto final = Banco.Corre(PROGRAMA_ANALIZA, {Fichero}, {.Memoria = mib << 20});
         EsperaSinDatos(final.Errores, "errors");
         if (final.Codigo != 0) {
