@@ -18,6 +18,7 @@
 #include "pruebas/automatizacion/Maquina.h"
 #include "pruebas/automatizacion/Teclado.h"
 #include "pruebas/automatizacion/WordQueVuelve.h"
+#include "pruebas/word/Compraventa.h"
 #include "pruebas/word/WordDePrueba.h"
 
 namespace analizador {
