@@ -8,7 +8,7 @@
 #include "programas/biblioteca/ErrorInterfaz.h"
 #include "programas/biblioteca/Fuentes.h"
 #include "programas/biblioteca/Textos.h"
-#include "programas/biblioteca/Turno.h"
+#include "programas/biblioteca/TurnoRevision.h"
 #include "programas/biblioteca/Ventanas.h"
 #include "programas/biblioteca/analizador.h"
 
@@ -61,7 +61,7 @@ void TSesionAnfitrion::Recoge(const std::string& archivo, unsigned opciones,
 
 void TSesionAnfitrion::AnalizaFichero(const std::string& fichero, unsigned opciones) {
     ExigeOpciones(opciones, ANALIZADOR_CON_REVISION | ANALIZADOR_CON_ORIGEN);
-    const TTurno turno(ConRevision(opciones));
+    const TTurnoDeRevision turno(ConRevision(opciones));
     const auto ventanas = ConRevision(opciones) ? AbreVentanas(VentanaDelAnfitrion()) : nullptr;
     FFichero = RutaDe(fichero);
     Recoge(fichero, opciones, AnalizaDocx(FFichero, ConRevision(opciones)));
@@ -69,7 +69,7 @@ void TSesionAnfitrion::AnalizaFichero(const std::string& fichero, unsigned opcio
 
 void TSesionAnfitrion::AnalizaTexto(const std::string& texto, unsigned opciones) {
     ExigeOpciones(opciones, ANALIZADOR_CON_REVISION | ANALIZADOR_CON_ORIGEN);
-    const TTurno turno(ConRevision(opciones));
+    const TTurnoDeRevision turno(ConRevision(opciones));
     const auto ventanas = ConRevision(opciones) ? AbreVentanas(VentanaDelAnfitrion()) : nullptr;
     FActual.Texto = AnsiDeUtf8(ConFinesDeParrafo(texto));
     Recoge("", opciones,
@@ -78,7 +78,7 @@ void TSesionAnfitrion::AnalizaTexto(const std::string& texto, unsigned opciones)
 
 void TSesionAnfitrion::AnalizaWord(void* aplicacion, unsigned opciones) {
     ExigeOpciones(opciones, ANALIZADOR_CON_REVISION);
-    const TTurno turno(ConRevision(opciones));
+    const TTurnoDeRevision turno(ConRevision(opciones));
     Recoge("", opciones, analizador::AnalizaWord(aplicacion, ConRevision(opciones)));
 }
 

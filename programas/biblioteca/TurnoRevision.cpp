@@ -1,4 +1,4 @@
-#include "programas/biblioteca/Turno.h"
+#include "programas/biblioteca/TurnoRevision.h"
 
 #include <shared_mutex>
 
@@ -20,7 +20,7 @@ thread_local bool revisando = false;
 
 }  // namespace
 
-TTurno::TTurno(bool conRevision) {
+TTurnoDeRevision::TTurnoDeRevision(bool conRevision) {
     if (enCurso > 0 && (conRevision || revisando))
         throw ErrorInterfaz(ANALIZADOR_MAL_USO, "el análisis anterior no ha terminado");
     if (enCurso == 0) {
@@ -30,7 +30,7 @@ TTurno::TTurno(bool conRevision) {
     ++enCurso;
 }
 
-TTurno::~TTurno() {
+TTurnoDeRevision::~TTurnoDeRevision() {
     if (--enCurso > 0) return;
     revisando ? Paso().unlock() : Paso().unlock_shared();
     revisando = false;
