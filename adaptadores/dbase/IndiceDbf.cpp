@@ -49,7 +49,7 @@ std::uint64_t Alto(const char* ocho) {
 }
 
 // The first eight bytes of a text, folded and followed by blanks if there are less, as a number that compares
-// as they do. Bytes below "`" fold to themselves, and nearly all texts have no others.
+// as they do. The bytes from the blank to "_" fold to themselves, and nearly all texts have no others.
 std::uint64_t Ocho(std::string_view texto) {
     std::array<char, sizeof(std::uint64_t)> bytes;
     bytes.fill(' ');
@@ -59,7 +59,9 @@ std::uint64_t Ocho(std::string_view texto) {
     }
     const std::uint64_t ocho = Alto(texto.data());
     constexpr std::uint64_t EN_CADA_BYTE = 0x0101010101010101U;
-    if (((ocho | (ocho + 0x20U * EN_CADA_BYTE)) & 0x80U * EN_CADA_BYTE) == 0) return ocho;
+    const bool llanos = (ocho & 0x80U * EN_CADA_BYTE) == 0 &&
+                        ((ocho ^ ocho << 1U) & 0x40U * EN_CADA_BYTE) == 0x40U * EN_CADA_BYTE;
+    if (llanos) return ocho;
     std::transform(texto.begin(), texto.begin() + bytes.size(), bytes.begin(),
                    [](char c) { return static_cast<char>(Plegados()[static_cast<unsigned char>(c)]); });
     return Alto(bytes.data());
