@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
-#include <optional>
+#include <mutex>
 #include <utility>
 
 #include "plataforma/Confnvx.h"
@@ -41,30 +41,32 @@ class TTiposPorPalabra {
 };
 
 // The deed types as the table has them now. They take far longer to sort out than a paragraph to search, and
-// every paragraph of a header asks for them: so each thread keeps those of the rows that it saw last.
-const TTiposPorPalabra& Tipos() {
-    thread_local std::shared_ptr<const void> contenido;
-    thread_local std::optional<TTiposPorPalabra> tipos;
+// every paragraph of a header asks for them: so those of the rows seen last are kept, for all threads.
+std::shared_ptr<const TTiposPorPalabra> Tipos() {
+    static std::mutex cerrojo;
+    static std::shared_ptr<const void> contenido;
+    static std::shared_ptr<const TTiposPorPalabra> tipos;
     const auto tabla = CreaTabla(Config().GetAliasNorvex(), "TIPOS.DBF", "", true, false);
     auto actual = tabla->Contenido();
-    if (!tipos || actual == nullptr || actual != contenido) {
-        tipos.emplace(*tabla);
+    const std::lock_guard guarda(cerrojo);
+    if (tipos == nullptr || actual == nullptr || actual != contenido) {
+        tipos = std::make_shared<const TTiposPorPalabra>(*tabla);
         contenido = std::move(actual);
     }
-    return *tipos;
+    return tipos;
 }
 
 }  // namespace
 
 std::vector<Tramo> BuscaConceptos(std::string_view parrafo, ListaTextos<TRConcepto>& lista) {
-    const TTiposPorPalabra& tipos = Tipos();
+    const auto tipos = Tipos();
     const TTextoSin limpio(parrafo, ".\t\r");
     std::string preparado = Pliega(limpio.Texto());
     std::replace(preparado.begin(), preparado.end(), '-', ' ');
     std::vector<Tramo> tramos;
     for (TPalabra p = PrimeraPalabra(preparado); !p.Palabra.empty(); p = PrimeraPalabra(p.Resto)) {
         if (p.Palabra.size() < LETRAS_MINIMAS || p.Palabra == "ESCRITURA") continue;
-        const TRConcepto* const tipo = tipos.Busca(p.Palabra);
+        const TRConcepto* const tipo = tipos->Busca(p.Palabra);
         if (tipo == nullptr || lista.Contiene(tipo->Nombre)) continue;
         lista.Anade(tipo->Nombre, std::make_unique<TRConcepto>(*tipo));
         const auto primera = static_cast<std::size_t>(p.Palabra.data() - preparado.data());
