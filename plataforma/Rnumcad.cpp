@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "plataforma/Ansi.h"
+#include "plataforma/Encuentra.h"
 
 namespace analizador {
 
@@ -96,7 +97,7 @@ std::string_view StrRight(std::string_view texto, int n) {
 }
 
 int Pos(std::string_view buscado, std::string_view texto) {
-    const auto sitio = buscado.empty() ? std::string_view::npos : texto.find(buscado);
+    const auto sitio = buscado.empty() ? std::string_view::npos : Encuentra(texto, buscado);
     return sitio == std::string_view::npos ? 0 : static_cast<int>(sitio + 1);
 }
 
