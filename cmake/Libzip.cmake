@@ -1,6 +1,7 @@
 # libzip::libzip. The optimised build has it linked in where herramientas/libzip has made it; the others, Debian's shared one.
-# (Not by libzip's own CMake package, which asks for its command line tools too.)
+# LIBZIP_DENTRO says which. (Not by libzip's own CMake package, which asks for its command line tools too.)
 set(carpeta_libzip)
+set(LIBZIP_DENTRO OFF)
 if(CMAKE_BUILD_TYPE STREQUAL "Release")
   execute_process(COMMAND ${PROJECT_SOURCE_DIR}/herramientas/libzip carpeta OUTPUT_VARIABLE carpeta_libzip
                   OUTPUT_STRIP_TRAILING_WHITESPACE)
@@ -9,6 +10,7 @@ find_library(ANALIZADOR_ZLIB libz.a)
 if(carpeta_libzip AND ANALIZADOR_ZLIB AND EXISTS ${carpeta_libzip}/HECHO)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${carpeta_libzip}/HECHO)
   message(STATUS "libzip, linked in: ${carpeta_libzip}")
+  set(LIBZIP_DENTRO ON)
   add_library(libzip::libzip STATIC IMPORTED)
   set_target_properties(libzip::libzip PROPERTIES IMPORTED_LOCATION ${carpeta_libzip}/lib/libzip.a)
   target_include_directories(libzip::libzip INTERFACE ${carpeta_libzip}/include)

@@ -5,5 +5,5 @@ function(analizador_licencias carpeta componente)
             OPTIONAL)
   endforeach()
 endfunction()
-analizador_licencias(${CMAKE_INSTALL_DATADIR}/analizador/licencias biblioteca libcli11-dev libpugixml-dev libzip-dev
-                     nlohmann-json3-dev zlib1g-dev)
+analizador_licencias(${CMAKE_INSTALL_DATADIR}/analizador/licencias biblioteca libc6-dev libcli11-dev libpugixml-dev
+                     libzip-dev nlohmann-json3-dev zlib1g-dev)
