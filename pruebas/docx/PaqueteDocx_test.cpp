@@ -257,6 +257,37 @@ TEST_F(PaqueteDocx, RehusaLasPartesCifradas) {
     Rehusa(bytes, "la parte «word/document.xml» está cifrada");
 }
 
+// The same archive, its document.xml said to be compressed with that method.
+std::string ConMetodo(std::string bytes, char metodo) {
+    bytes[EnDirectorio(bytes, "word/document.xml", 10)] = metodo;
+    bytes[bytes.find("word/document.xml") - 30 + 8] = metodo;
+    return bytes;
+}
+
+// The same archive, its document.xml said to be ciphered with AES: a method and an extra field of its own.
+std::string ConAes(const std::string& sinCifrar) {
+    constexpr auto CAMPO = "\x01\x99\x07\x00\x02\x00\x41\x45\x03\x08\x00"sv;
+    constexpr std::string_view NOMBRE = "word/document.xml";
+    auto bytes = ConMetodo(sinCifrar, 99);
+    const auto marcas = EnDirectorio(bytes, std::string(NOMBRE), 8);
+    bytes[marcas] = static_cast<char>(bytes[marcas] | 1);
+    bytes[marcas + 22] = static_cast<char>(bytes[marcas + 22] + static_cast<char>(CAMPO.size()));
+    bytes.insert(marcas - 8 + 46 + NOMBRE.size(), CAMPO);
+    const auto largoDelDirectorio = bytes.rfind("PK\x05\x06") + 12;
+    bytes[largoDelDirectorio] =
+        static_cast<char>(bytes[largoDelDirectorio] + static_cast<char>(CAMPO.size()));
+    return bytes;
+}
+
+// Whatever libzip was built with.
+TEST_F(PaqueteDocx, RehusaLasCompresionesYCifradosDeOtros) {
+    const auto bytes = Comprime(PartesDocumento(DocumentoXml(UN_PARRAFO)));
+    constexpr char BZIP2 = 12, LZMA = 14, ZSTD = 93, XZ = 95;
+    for (const char metodo : {BZIP2, LZMA, ZSTD, XZ})
+        Rehusa(ConMetodo(bytes, metodo), "la parte «word/document.xml» usa una compresión que no se admite");
+    Rehusa(ConAes(bytes), "la parte «word/document.xml» está cifrada");
+}
+
 // Reads what is left of a document: its content or a refusal, and nothing else.
 void LeeDanado(const std::filesystem::path& fichero, std::string_view bytes) {
     EscribeFichero(fichero, bytes);
