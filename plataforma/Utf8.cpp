@@ -61,12 +61,16 @@ std::string EnUnaLinea(std::string_view utf8) {
     return linea;
 }
 
-std::string NombreCitado(std::string_view utf8) {
+std::string PrincipioEnUnaLinea(std::string_view utf8) {
     constexpr std::size_t MAXIMO = 160;
-    if (utf8.size() <= MAXIMO) return "«" + EnUnaLinea(utf8) + "»";
+    if (utf8.size() <= MAXIMO) return EnUnaLinea(utf8);
     std::size_t fin = MAXIMO;
     while (fin > 0 && EsContinuacion(utf8[fin])) --fin;
-    return "«" + EnUnaLinea(utf8.substr(0, fin)) + "…»";
+    return EnUnaLinea(utf8.substr(0, fin)) + "…";
+}
+
+std::string NombreCitado(std::string_view utf8) {
+    return "«" + PrincipioEnUnaLinea(utf8) + "»";
 }
 
 }  // namespace analizador

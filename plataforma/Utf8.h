@@ -12,7 +12,10 @@ void AnadeUtf8(std::string& texto, char32_t punto);
 // byte and for each character that ends a line, turns the direction of writing or commands a terminal.
 [[nodiscard]] std::string EnUnaLinea(std::string_view utf8);
 
-// The same of a name, between «»; of a very long one only the beginning, with "…".
+// The same; of what is very long only the beginning, with "…".
+[[nodiscard]] std::string PrincipioEnUnaLinea(std::string_view utf8);
+
+// The same between «», for a name.
 [[nodiscard]] std::string NombreCitado(std::string_view utf8);
 
 }  // namespace analizador

@@ -22,7 +22,7 @@ TEST(EnUnaLinea, PoneInterrogacionEnLoQueNoCabeEnUnaLinea) {
              TCaso{"\u0080\u0085\u009B\u009F\u00A0"sv, "????\u00A0"sv},
              TCaso{"a\u2028b\u2029c\u2027d"sv, "a?b?c\u2027d"sv},
              TCaso{"\u061C\u200E\u200F\u202A\u202E\u2066\u2069"sv, "???????"sv},
-             TCaso{"\xFF\xC3(\xE2\x82"sv, "??(??"sv},
+             TCaso{"\xFF\xC3z\xE2\x82"sv, "??z??"sv},
              TCaso{"\uFFFD"sv, "?"sv},
          })
         EXPECT_EQ(EnUnaLinea(texto), dicho);
@@ -41,6 +41,7 @@ TEST(NombreCitado, SeCortaEnteroEntreDosLetras) {
     EXPECT_EQ(NombreCitado(hasta158 + "€uros"), "«" + hasta158 + "…»");
     EXPECT_EQ(NombreCitado(hasta158.substr(1) + "€uros"), "«" + hasta158.substr(1) + "€…»");
     EXPECT_EQ(NombreCitado(std::string(100000, '\x80')), "«…»");
+    EXPECT_EQ(PrincipioEnUnaLinea("\n" + cabe), "?" + cabe.substr(1) + "…");
 }
 
 }  // namespace
