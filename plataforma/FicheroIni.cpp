@@ -41,23 +41,42 @@ const TFicheroIni::Clave* BuscaClave(const TFicheroIni::Seccion& seccion, std::s
     return donde == seccion.Claves.end() ? nullptr : &*donde;
 }
 
-// Entries beyond the last one that the file gives are empty and find nothing, so the list ends there,
-// whatever count the file claims.
-std::vector<std::string> ListaDePalabras(const TFicheroIni::Seccion& seccion) {
+struct TEntrada {
+    std::size_t Numero;
+    const TFicheroIni::Clave* Clave;
+};
+
+// Those that count, by number; of two equal ones the first of the file stands first.
+std::vector<TEntrada> Entradas(const TFicheroIni::Seccion& seccion) {
+    std::vector<TEntrada> entradas;
     const auto* const cuenta = BuscaClave(seccion, "NumPalabras");
     const int n = cuenta == nullptr ? 0 : Cad_Int(cuenta->Valor);
-    std::vector<const std::string_view*> entradas;
+    if (n <= 0) return entradas;
     entradas.reserve(seccion.Claves.size());
-    for (const auto& clave : seccion.Claves) {
-        const auto numero = NumeroDeEntrada(clave.Nombre);
-        if (!numero || n <= 0 || *numero > static_cast<std::size_t>(n)) continue;
-        if (*numero > seccion.Claves.size() * 64 + 64) continue;  // a stray key must not cost memory
-        if (entradas.size() < *numero) entradas.resize(*numero);
-        if (auto& entrada = entradas[*numero - 1]; entrada == nullptr) entrada = &clave.Valor;
-    }
+    for (const auto& clave : seccion.Claves)
+        if (const auto numero = NumeroDeEntrada(clave.Nombre);
+            numero && *numero <= static_cast<std::size_t>(n))
+            entradas.push_back({*numero, &clave});
+    if (!std::ranges::is_sorted(entradas, {}, &TEntrada::Numero))
+        std::ranges::stable_sort(entradas, {}, &TEntrada::Numero);
+    return entradas;
+}
+
+// Entries beyond the last one that the file gives are empty and find nothing, so the list ends there,
+// whatever count the file claims. It also ends before a stray key so far away that more entries than `huecos`
+// would be missing; what it lacks is taken from them.
+std::vector<std::string> ListaDePalabras(const TFicheroIni::Seccion& seccion, std::size_t& huecos) {
+    const auto entradas = Entradas(seccion);
     std::vector<std::string> palabras;
     palabras.reserve(entradas.size());
-    for (const auto* entrada : entradas) palabras.emplace_back(entrada == nullptr ? "" : *entrada);
+    for (const auto& [numero, clave] : entradas) {
+        if (numero <= palabras.size()) continue;  // repeated
+        const std::size_t faltan = numero - palabras.size() - 1;
+        if (faltan > huecos) break;
+        huecos -= faltan;
+        palabras.resize(numero - 1);
+        palabras.emplace_back(clave->Valor);
+    }
     return palabras;
 }
 
@@ -70,6 +89,8 @@ std::string SinMarcaUtf8(std::string_view bytes) {
 
 TFicheroIni::TFicheroIni(std::string_view bytes)
     : texto_(std::make_shared<const std::string>(SinMarcaUtf8(bytes))) {
+    // An empty entry takes some thirty bytes: those of a file no more than four times its size, and a few.
+    std::size_t huecos = 8192 + bytes.size() / 8;
     int numero = 0;
     for (std::string_view resto = *texto_; !resto.empty();) {
         const auto fin = resto.find('\n');
@@ -88,7 +109,7 @@ TFicheroIni::TFicheroIni(std::string_view bytes)
         }
     }
     for (const auto& seccion : secciones_)
-        palabras_.emplace_back(AnsiUpperCase(seccion.Nombre), ListaDePalabras(seccion));
+        palabras_.emplace_back(AnsiUpperCase(seccion.Nombre), ListaDePalabras(seccion, huecos));
     // Stable, so that of two equal sections the first stands first and is the one found.
     std::stable_sort(palabras_.begin(), palabras_.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });

@@ -1,5 +1,6 @@
 #include "programas/biblioteca/Llamada.h"
 
+#include "plataforma/Utf8.h"
 #include "programas/biblioteca/Textos.h"
 
 namespace analizador {
@@ -11,7 +12,7 @@ void TMotivo::Olvida() noexcept {
 
 void TMotivo::Pon(const char* motivo) noexcept {
     try {
-        FTexto = motivo;
+        FTexto = EnUnaLinea(motivo);
         FTexto16 = UnidadesDe(FTexto);
     } catch (...) {
         FTexto = "sin memoria";  // short enough to need none

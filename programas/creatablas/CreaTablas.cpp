@@ -9,6 +9,7 @@
 
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
+#include "plataforma/Utf8.h"
 #include "programas/creatablas/LectorCsv.h"
 
 namespace analizador {
@@ -54,11 +55,11 @@ TFilaDbf FilaDe(const TRegistroCsv& registro, const TEsquema& esquema) {
         const std::string campo = "campo " + columna.Nombre + ": ";
         const std::optional<std::string> ansi = AnsiExacto(registro.Campos[i]);
         if (!ansi)
-            throw ErrorCsv(
-                registro.Linea,
-                campo + "tiene letras que no están en la página de códigos 1252: " + registro.Campos[i]);
+            throw ErrorCsv(registro.Linea, campo +
+                                               "tiene letras que no están en la página de códigos 1252: " +
+                                               PrincipioEnUnaLinea(registro.Campos[i]));
         const std::string causa = CausaNoCabe(columna, *ansi);
-        if (!causa.empty()) throw ErrorCsv(registro.Linea, campo + Utf8DeAnsi(causa));
+        if (!causa.empty()) throw ErrorCsv(registro.Linea, campo + PrincipioEnUnaLinea(Utf8DeAnsi(causa)));
         fila.push_back(*ansi);
     }
     return fila;
@@ -109,14 +110,14 @@ bool CreaTablas(const std::filesystem::path& origen, const std::filesystem::path
     std::error_code error;
     std::filesystem::create_directories(destino, error);
     if (!std::filesystem::is_directory(destino, error)) {
-        errores << "creatablas: " << Utf8(destino) << ": no se puede crear la carpeta\n";
+        errores << "creatablas: " << EnUnaLinea(Utf8(destino)) << ": no se puede crear la carpeta\n";
         return false;
     }
     bool bien = true;
     for (const TEsquema& esquema : Esquemas()) {
         const std::string fallo =
             CreaTabla(origen / (esquema.Tabla + ".csv"), destino / (esquema.Tabla + ".DBF"), esquema);
-        if (!fallo.empty()) errores << "creatablas: " << fallo << '\n';
+        if (!fallo.empty()) errores << "creatablas: " << EnUnaLinea(fallo) << '\n';
         bien = bien && fallo.empty();
     }
     return bien;

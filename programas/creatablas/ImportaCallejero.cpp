@@ -9,6 +9,7 @@
 #include "adaptadores/dbase/OrdenDbf.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
+#include "plataforma/Utf8.h"
 #include "programas/creatablas/CreaTablas.h"
 #include "programas/creatablas/Esquema.h"
 #include "programas/creatablas/FilasMunicipios.h"
@@ -67,7 +68,7 @@ void DiLeido(const TCallejero& callejero, std::ostream& salida) {
     if (callejero.TiposDesconocidos.empty()) return;
     salida << "Tipos de vía que no están en " << DISENO << ":";
     for (const auto& [tipo, veces] : callejero.TiposDesconocidos)
-        salida << ' ' << Utf8DeAnsi(tipo) << " (" << veces << ')';
+        salida << ' ' << EnUnaLinea(Utf8DeAnsi(tipo)) << " (" << veces << ')';
     salida << '\n';
 }
 
@@ -107,7 +108,7 @@ bool ImportaCallejero(const std::filesystem::path& carpeta, const std::filesyste
         EscribeTablas(callejero, FilasMunicipios(propias, callejero), destino, salida);
         return true;
     } catch (const ErrorCallejero& error) {
-        errores << "creatablas: " << error.what() << '\n';
+        errores << "creatablas: " << EnUnaLinea(error.what()) << '\n';
     } catch (const ErrorTabla& error) {
         errores << "creatablas: " << Utf8DeAnsi(error.what()) << '\n';
     }

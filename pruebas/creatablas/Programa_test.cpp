@@ -84,6 +84,22 @@ TEST_F(Programa, UnFalloNombraFicheroLineaYCausa) {
     EXPECT_TRUE(std::filesystem::exists(Ruta("TABLAS") / "TIPOS.DBF")) << "the others are made";
 }
 
+TEST_F(Programa, LoQueDiceElFicheroNoParteLaLineaDelFalloNiLaAlarga) {
+    Pon("PILA.csv", "NOMBRE\n\"Ж\nANA\u2028\x1B[2J" + std::string(5000, 'X') + "\"\n");
+    Pon("TIPOS.csv", Contenido(Ruta("datos") / "TIPOS.csv") + "\"1\n2\",\"X\nY\"\n");
+    std::filesystem::rename(Ruta("datos"), Ruta("da\ntos"));
+    const TResultado resultado = Ejecuta("--origen 'da\ntos'");
+    EXPECT_EQ(resultado.Codigo, 1);
+    EXPECT_EQ(Lineas(resultado.Errores), 2) << resultado.Errores;
+    EXPECT_NE(
+        resultado.Errores.find("da?tos/PILA.csv:2: campo NOMBRE: tiene letras que no están en la página "
+                               "de códigos 1252: Ж?ANA??[2JXXX"),
+        std::string::npos)
+        << resultado.Errores;
+    EXPECT_NE(resultado.Errores.find("XXX…\n"), std::string::npos) << resultado.Errores;
+    EXPECT_LT(resultado.Errores.size(), 700U);
+}
+
 TEST_F(Programa, CadaFicheroConFalloSeDiceYLaTablaViejaQueda) {
     ASSERT_EQ(Ejecuta("").Codigo, 0);
     const std::string vieja = Contenido(Ruta("TABLAS") / "PILA.DBF");

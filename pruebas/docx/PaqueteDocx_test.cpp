@@ -155,6 +155,19 @@ TEST_F(PaqueteDocx, RehusaLoQueNoEsUnDocumento) {
            "falta la parte principal «word/no.xml»");
 }
 
+TEST_F(PaqueteDocx, NombraLaParteQueFaltaEnUnaLineaYNoMuyLarga) {
+    const std::string largo(200, 'x');
+    for (const auto& [destino, citada] : std::vector<std::pair<std::string, std::string>>{
+             {"word/d&#10;1.xml", "«word/d?1.xml»"},
+             {"word/d%0D%0A1.xml", "«word/d??1.xml»"},
+             {"word/&#x7F;&#x85;&#x9B;&#x2028;&#x2029;&#x202E;1.xml", "«word/??????1.xml»"},
+             {"word/\xC3\x28.xml", "«word/?(.xml»"},
+             {"word/Ñandú€.xml", "«word/Ñandú€.xml»"},
+             {"word/" + largo + ".xml", "«word/" + largo.substr(0, 155) + "…»"}})
+        Rehusa(Comprime({{"_rels/.rels", Relaciones("officeDocument", destino)}}),
+               "falta la parte principal " + citada);
+}
+
 TEST_F(PaqueteDocx, RehusaLoQueNoSePuedeLeer) {
     EXPECT_NE(RechazoAlLeer(Carpeta / "no está.docx").find("no está.docx: el fichero no existe"),
               std::string::npos);

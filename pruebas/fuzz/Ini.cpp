@@ -45,7 +45,7 @@ void CompruebaPalabras(const TFicheroIni& ini, std::string_view seccion) {
     for (std::size_t i = 0; i < palabras.size(); ++i)
         Exige(palabras[i] == ini.LeeTexto(seccion, std::to_string(i + 1), ""), "a word is not its key's");
     const int siguiente = static_cast<int>(palabras.size()) + 1;
-    if (siguiente <= cuenta && palabras.size() < 64)
+    if (siguiente <= cuenta)
         Exige(ini.LeeTexto(seccion, std::to_string(siguiente), "").empty(), "a word was left out");
 }
 
