@@ -4,6 +4,8 @@
 
 #include <chrono>
 #include <fstream>
+#include <memory>
+#include <utility>
 
 #include "plataforma/Ansi.h"
 #include "plataforma/Rficheros.h"
@@ -66,6 +68,18 @@ TEST(FicheroIni, LeeTextosYEnterosConSuDefecto) {
     EXPECT_EQ(ini.LeeEntero("TABLAS", "Cuantos", 7), 12);
     EXPECT_EQ(ini.LeeEntero("TABLAS", "Mal", 7), 7);
     EXPECT_EQ(ini.LeeEntero("TABLAS", "Otra", 7), 7);
+}
+
+TEST(FicheroIni, SusTextosVivenConCualquieraDeSusCopias) {
+    auto primero = std::make_unique<TFicheroIni>("[NIF]\nNumPalabras=1\n1=A\n");
+    const TFicheroIni copia(*primero);
+    const TFicheroIni movido(std::move(*primero));
+    primero.reset();
+    for (const TFicheroIni* ini : {&copia, &movido}) {
+        EXPECT_EQ(ini->Secciones()[0].Claves[1].Nombre, "1");
+        EXPECT_EQ(ini->Secciones()[0].Claves[1].Valor, "A");
+        EXPECT_EQ(ini->LeeTexto("NIF", "1", ""), "A");
+    }
 }
 
 TEST(FicheroIni, DiceEnQueLineaEstaCadaCosa) {
