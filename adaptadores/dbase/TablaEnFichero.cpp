@@ -22,13 +22,18 @@ struct TNoFiable {};
 class TFilasVistas {
   public:
     TFilasVistas(TBloquesDbf& bloques, const TOrdenDbf& orden, const std::vector<const TCampoDbf*>& campos)
-        : bloques_(bloques), orden_(orden), campos_(campos), filas_(bloques.Estructura()->Registros()) {}
+        : bloques_(bloques), orden_(orden), campos_(campos), filas_(bloques.Estructura()->Registros()) {
+        vistas_.reserve(HABITUALES);
+    }
 
     // The row at that position of the order. Throws TNoFiable when there is none, or a deleted one.
     std::string_view Registro(std::uint64_t posicion) {
-        const auto [vista, nueva] = vistas_.try_emplace(posicion);
-        if (nueva) vista->second = Mira(orden_.Registro(posicion));
-        return vista->second.Bytes;
+        const std::uint64_t numero = orden_.Registro(posicion);
+        if (numero >= filas_) throw TNoFiable();
+        const std::optional<std::string_view> registro = bloques_.Registro(numero);
+        if (!registro || registro->front() == BORRADO_DBF) throw TNoFiable();
+        vistas_.push_back({posicion, numero, *registro});
+        return *registro;
     }
 
     // Where the rows begin and end whose keys lie between the two; without `hasta`, only the first that
@@ -45,18 +50,22 @@ class TFilasVistas {
         return {primero, primero + (hallado ? 1 : 0)};
     }
 
-    // Whether all met, and those around the stretch, lie in the index's order.
+    // Whether all met, and those of the stretch and around it, lie in the index's order.
     [[nodiscard]] bool EnOrden(std::uint64_t primero, std::uint64_t fin) {
         const std::uint64_t ultimo = std::min(fin + VECINOS, filas_);
         for (std::uint64_t p = primero - std::min(primero, VECINOS); p < ultimo; ++p) Registro(p);
-        return std::adjacent_find(vistas_.begin(), vistas_.end(), [&](const auto& una, const auto& otra) {
-                   return !VaAntes(una.second, otra.second);
+        std::ranges::sort(vistas_, {}, &TVista::Posicion);
+        return std::ranges::adjacent_find(vistas_, [&](const TVista& una, const TVista& otra) {
+                   return una.Posicion != otra.Posicion && !VaAntes(una, otra);
                }) == vistas_.end();
     }
 
   private:
+    static constexpr std::size_t HABITUALES = 96;
+
     struct TVista {
-        std::uint64_t Numero = 0;
+        std::uint64_t Posicion = 0;
+        std::uint64_t Numero = 0;  // in the file
         std::string_view Bytes;
     };
 
@@ -75,13 +84,6 @@ class TFilasVistas {
         return desde;
     }
 
-    [[nodiscard]] TVista Mira(std::uint64_t numero) {
-        if (numero >= filas_) throw TNoFiable();
-        const std::optional<std::string_view> registro = bloques_.Registro(numero);
-        if (!registro || registro->front() == BORRADO_DBF) throw TNoFiable();
-        return {numero, *registro};
-    }
-
     [[nodiscard]] bool VaAntes(const TVista& una, const TVista& otra) const {
         const int orden = ComparaRegistros(campos_, una.Bytes, otra.Bytes);
         return orden != 0 ? orden < 0 : una.Numero < otra.Numero;
@@ -91,7 +93,7 @@ class TFilasVistas {
     const TOrdenDbf& orden_;
     const std::vector<const TCampoDbf*>& campos_;
     std::uint64_t filas_;
-    std::map<std::uint64_t, TVista> vistas_;  // by their positions
+    std::vector<TVista> vistas_;
 };
 
 }  // namespace
