@@ -30,17 +30,6 @@ std::string ConExtension(std::string_view fichero) {
     return nombre;
 }
 
-// The file of the folder with that name in whatever case; the exact name first.
-std::filesystem::path BuscaFichero(const std::filesystem::path& carpeta, const std::string& nombre) {
-    std::error_code error;
-    if (std::filesystem::is_regular_file(carpeta / nombre, error)) return carpeta / nombre;
-    const std::string buscado = EnMayusculas(nombre);
-    std::filesystem::directory_iterator entrada(carpeta, error);
-    for (; !error && entrada != std::filesystem::directory_iterator(); entrada.increment(error))
-        if (EnMayusculas(Ansi(entrada->path().filename())) == buscado) return entrada->path();
-    throw ErrorTabla("La tabla " + nombre + std::string(" no está en la carpeta "_ansi) + Ansi(carpeta));
-}
-
 TLecturaFichero LeeTabla(const std::filesystem::path& ruta) {
     TLecturaFichero lectura = LeeFichero(ruta);
     switch (lectura.Estado) {
@@ -74,49 +63,88 @@ std::filesystem::path TProveedorDbase::Carpeta(std::string_view alias) const {
     return carpeta->second;
 }
 
+// The file of the folder with that name in whatever case; the exact name first.
+TProveedorDbase::TFicheroTabla TProveedorDbase::BuscaFichero(const std::filesystem::path& carpeta,
+                                                             const std::string& nombre) {
+    const std::filesystem::path exacta = carpeta / nombre;
+    if (const TMarcaFichero marca = MarcaDeFichero(exacta); marca.Existe) return {exacta, marca};
+    const std::string buscado = EnMayusculas(nombre);
+    std::error_code error;
+    std::filesystem::directory_iterator entrada(carpeta, error);
+    for (; !error && entrada != std::filesystem::directory_iterator(); entrada.increment(error))
+        if (EnMayusculas(Ansi(entrada->path().filename())) == buscado)
+            return {entrada->path(), MarcaDeFichero(entrada->path())};
+    throw ErrorTabla("La tabla " + nombre + std::string(" no está en la carpeta "_ansi) + Ansi(carpeta));
+}
+
 std::shared_ptr<TProveedorDbase::TEntrada> TProveedorDbase::Entrada(const std::filesystem::path& ruta) {
     const std::lock_guard guarda(cerrojo_);
-    std::shared_ptr<TEntrada>& entrada = entradas_[ruta];
+    std::shared_ptr<TEntrada>& entrada = entradas_[ruta.native()];
     if (entrada == nullptr) entrada = std::make_shared<TEntrada>();
     return entrada;
 }
 
-std::shared_ptr<const TTablaEnMemoria> TProveedorDbase::Tabla(const std::filesystem::path& ruta) {
-    const std::shared_ptr<TEntrada> entrada = Entrada(ruta);
-    const std::lock_guard guarda(entrada->Cerrojo);
-    const TMarcaFichero marca = MarcaDeFichero(ruta);
-    if (entrada->Tabla != nullptr && !marca.Reciente && marca == entrada->Marca) return entrada->Tabla;
-    TLecturaFichero lectura = LeeTabla(ruta);
-    entrada->Tabla = std::make_shared<const TTablaEnMemoria>(EnMayusculas(Ansi(ruta.stem())),
-                                                             std::move(lectura.Bytes), Ansi(ruta));
-    entrada->Marca = lectura.Marca;
-    return entrada->Tabla;
+// Forgets what was kept of another content, or may have been.
+void TProveedorDbase::Renueva(TEntrada& entrada, const TMarcaFichero& marca) {
+    if (!marca.Reciente && marca == entrada.Marca) return;
+    entrada.Marca = marca;
+    entrada.NotaMirada = false;
+    entrada.EnFichero.reset();
+    entrada.Tabla.reset();
 }
 
-// A note that counted goes on counting as long as the table's mark says that nobody touched it.
-bool TProveedorDbase::EstaEnOrden(const std::filesystem::path& ruta, const TMarcaFichero& marca,
-                                  std::string_view indice) {
-    const std::shared_ptr<TEntrada> entrada = Entrada(ruta);
+// A note that counted, or did not, goes on so as long as the table's mark says that nobody touched it.
+void TProveedorDbase::MiraNota(TEntrada& entrada, const std::filesystem::path& ruta) try {
+    if (std::exchange(entrada.NotaMirada, true)) return;
+    TOrdenesDbf ordenes = OrdenAnotado(ruta, entrada.Marca);
+    if (ordenes.empty()) return;
+    entrada.EnFichero = std::make_shared<TTablaEnFichero>(
+        ruta, entrada.Marca, EnMayusculas(Ansi(ruta.stem())), Ansi(ruta), std::move(ordenes));
+} catch (const ErrorTabla&) {
+    // Whoever reads it whole tells what is wrong with it, if it stays so.
+}
+
+std::shared_ptr<const TTablaEnMemoria> TProveedorDbase::Entera(TEntrada& entrada,
+                                                               const std::filesystem::path& ruta) {
+    if (entrada.Tabla != nullptr) return entrada.Tabla;
+    TLecturaFichero lectura = LeeTabla(ruta);
+    entrada.Tabla = std::make_shared<const TTablaEnMemoria>(EnMayusculas(Ansi(ruta.stem())),
+                                                            std::move(lectura.Bytes), Ansi(ruta));
+    entrada.Marca = lectura.Marca;
+    entrada.EnFichero.reset();
+    return entrada.Tabla;
+}
+
+std::unique_ptr<TTabla> TProveedorDbase::AbreEntera(const TFicheroTabla& fichero, std::string_view indice) {
+    const std::shared_ptr<TEntrada> entrada = Entrada(fichero.Ruta);
+    std::unique_lock guarda(entrada->Cerrojo);
+    Renueva(*entrada, fichero.Marca);
+    std::shared_ptr<const TTablaEnMemoria> tabla = Entera(*entrada, fichero.Ruta);
+    guarda.unlock();
+    return std::make_unique<TTablaDbase>(std::move(tabla), indice);
+}
+
+std::shared_ptr<TTablaEnFichero> TProveedorDbase::EnOrden(const TFicheroTabla& fichero,
+                                                          std::string_view indice) {
+    if (indice.empty()) return nullptr;
+    const std::shared_ptr<TEntrada> entrada = Entrada(fichero.Ruta);
     const std::lock_guard guarda(entrada->Cerrojo);
-    if (entrada->Orden.empty() || marca.Reciente || marca != entrada->MarcaOrden) {
-        entrada->Orden = OrdenAnotado(ruta, marca);
-        entrada->MarcaOrden = marca;
-    }
-    return entrada->Orden == indice;
+    Renueva(*entrada, fichero.Marca);
+    if (entrada->Tabla != nullptr) return nullptr;
+    MiraNota(*entrada, fichero.Ruta);
+    const std::shared_ptr<TTablaEnFichero>& tabla = entrada->EnFichero;
+    return tabla != nullptr && tabla->ConoceOrden(indice) && !tabla->CompensaEntera() ? tabla : nullptr;
 }
 
 std::unique_ptr<TTabla> TProveedorDbase::Abre(std::string_view alias, std::string_view fichero,
                                               std::string_view indice) {
-    const std::filesystem::path ruta = BuscaFichero(Carpeta(alias), ConExtension(fichero));
-    const auto abreEntera = [this, ruta, indice = std::string(indice)]() -> std::unique_ptr<TTabla> {
-        return std::make_unique<TTablaDbase>(Tabla(ruta), indice);
-    };
-    const TMarcaFichero marca = MarcaDeFichero(ruta);
-    if (indice.empty() || !EstaEnOrden(ruta, marca, indice)) return abreEntera();
-    auto ordenada = std::make_unique<TTablaOrdenadaDbf>(ruta, EnMayusculas(Ansi(ruta.stem())),
-                                                        std::string(indice), Ansi(ruta), abreEntera);
-    if (!MismaMarca(marca, MarcaDeFichero(ruta))) return abreEntera();  // another one by now
-    return ordenada;
+    const TFicheroTabla hallado = BuscaFichero(Carpeta(alias), ConExtension(fichero));
+    const std::shared_ptr<TTablaEnFichero> enOrden = EnOrden(hallado, indice);
+    if (enOrden == nullptr) return AbreEntera(hallado, indice);
+    return std::make_unique<TTablaOrdenadaDbf>(enOrden, indice,
+                                               [this, ruta = hallado.Ruta, indice = std::string(indice)] {
+                                                   return AbreEntera({ruta, MarcaDeFichero(ruta)}, indice);
+                                               });
 }
 
 }  // namespace analizador

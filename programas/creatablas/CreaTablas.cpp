@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdint>
 #include <fstream>
 #include <optional>
+#include <ratio>
 #include <sstream>
 #include <string>
 
+#include "adaptadores/dbase/OrdenDbf.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
 #include "plataforma/Utf8.h"
@@ -78,12 +81,12 @@ std::chrono::year_month_day Hoy() {
 }
 
 // The fault, UTF-8; empty when the table was made.
-std::string CreaTabla(const std::filesystem::path& csv, const std::filesystem::path& dbf,
+std::string CreaTabla(const std::filesystem::path& csv, const std::filesystem::path& destino,
                       const TEsquema& esquema) {
     const std::optional<std::string> contenido = Contenido(csv);
     if (!contenido) return Utf8(csv) + ": no se puede leer";
     try {
-        EscribeDbf(dbf, esquema.Columnas, FilasDeCsv(*contenido, esquema), Hoy());
+        EscribeTabla(destino, esquema, FilasDeCsv(*contenido, esquema), Hoy());
     } catch (const ErrorCsv& error) {
         return Utf8(csv) + ":" + std::to_string(error.Linea) + ": " + error.what();
     } catch (const ErrorTabla& error) {
@@ -105,6 +108,23 @@ std::vector<TFilaDbf> FilasDeCsv(std::string_view csv, const TEsquema& esquema) 
     return filas;
 }
 
+void EscribeTabla(const std::filesystem::path& destino, const TEsquema& esquema,
+                  const std::vector<TFilaDbf>& filas, std::chrono::year_month_day fecha) {
+    const std::filesystem::path tabla = destino / (esquema.Tabla + ".DBF");
+    OlvidaOrden(tabla);
+    EscribeDbf(tabla, esquema.Columnas, filas, fecha);
+    if (esquema.Indices.empty()) return;
+    RedondeaFecha(tabla);
+    AnotaOrdenes(tabla, esquema.Indices);
+}
+
+void RedondeaFecha(const std::filesystem::path& fichero) {
+    using TDosSegundos = std::chrono::duration<std::int64_t, std::ratio<2>>;
+    std::error_code error;
+    const auto fecha = std::filesystem::last_write_time(fichero, error);
+    if (!error) std::filesystem::last_write_time(fichero, std::chrono::ceil<TDosSegundos>(fecha), error);
+}
+
 bool CreaTablas(const std::filesystem::path& origen, const std::filesystem::path& destino,
                 std::ostream& errores) {
     std::error_code error;
@@ -115,8 +135,7 @@ bool CreaTablas(const std::filesystem::path& origen, const std::filesystem::path
     }
     bool bien = true;
     for (const TEsquema& esquema : Esquemas()) {
-        const std::string fallo =
-            CreaTabla(origen / (esquema.Tabla + ".csv"), destino / (esquema.Tabla + ".DBF"), esquema);
+        const std::string fallo = CreaTabla(origen / (esquema.Tabla + ".csv"), destino, esquema);
         if (!fallo.empty()) errores << "creatablas: " << EnUnaLinea(fallo) << '\n';
         bien = bien && fallo.empty();
     }

@@ -82,8 +82,9 @@ void EscribeTablas(const TCallejero& callejero, const std::vector<TFilaDbf>& mun
     EscribeDbf(
         postal, EsquemaDe("POSTAL").Columnas, filas.size(),
         [&](std::size_t fila) { return FilaDbfDe(callejero, filas[fila]); }, hoy);
+    RedondeaFecha(postal);
     AnotaOrden(postal, INDICE_VIAS);
-    EscribeDbf(destino / "MUNICIPI.DBF", EsquemaDe("MUNICIPI").Columnas, municipios, hoy);
+    EscribeTabla(destino, EsquemaDe("MUNICIPI"), municipios, hoy);
     salida << "Escritas: POSTAL.DBF con " << filas.size() << " filas y MUNICIPI.DBF con " << municipios.size()
            << ".\n";
 }
