@@ -44,11 +44,13 @@ QRect Lugar(HWND ventana) {
 TVentanaAjena::TVentanaAjena(std::intptr_t ventana)
     : QWidget(nullptr, Qt::Tool), FAjena(IsWindow(Asa(ventana)) ? ventana : 0) {
     setAttribute(Qt::WA_QuitOnClose, false);
+    // Before the system makes its window: one that is not shown stays where it was made, and it is that one
+    // whose middle a dialog asks for.
+    if (const QRect lugar = Lugar(Asa(FAjena)); lugar.isValid()) setGeometry(lugar);
     const HWND propia = Asa(static_cast<std::intptr_t>(winId()));
     if (FAjena == 0) return;
     SetWindowLongPtrW(propia, GWLP_HWNDPARENT, FAjena);
     QCoreApplication::instance()->installEventFilter(this);
-    if (const QRect lugar = Lugar(Asa(FAjena)); lugar.isValid()) setGeometry(lugar);
 }
 
 TVentanaAjena::~TVentanaAjena() {

@@ -86,7 +86,9 @@ class FallosWord : public testing::Test {
         constexpr std::size_t CORTA = 4;
         std::istringstream palabras(Parrafos(COMPRAVENTA) + VARIABLES[1].Valor + " " + FINCAS[1].Nombre);
         for (std::string palabra; palabras >> palabra;)
-            if (palabra.size() > CORTA) EXPECT_EQ(mensaje.find(palabra), std::string::npos) << mensaje;
+            if (palabra.size() > CORTA) {
+                EXPECT_EQ(mensaje.find(palabra), std::string::npos) << mensaje;
+            }
     }
 
     TEscena Escena{COMPRAVENTA, VARIABLES, FINCAS};
