@@ -30,8 +30,8 @@ std::string ConExtension(std::string_view fichero) {
     return nombre;
 }
 
-TLecturaFichero LeeTabla(const std::filesystem::path& ruta) {
-    TLecturaFichero lectura = LeeFichero(ruta);
+TLecturaFichero LeeTabla(const std::filesystem::path& ruta, const TTomaMarca& marca) {
+    TLecturaFichero lectura = LeeFichero(ruta, marca);
     switch (lectura.Estado) {
         case TEstadoLectura::Entera:
             return lectura;
@@ -48,7 +48,8 @@ TLecturaFichero LeeTabla(const std::filesystem::path& ruta) {
 
 }  // namespace
 
-TProveedorDbase::TProveedorDbase(std::filesystem::path carpeta) : comun_(std::move(carpeta)) {}
+TProveedorDbase::TProveedorDbase(std::filesystem::path carpeta, TTomaMarca marca)
+    : marca_(std::move(marca)), comun_(std::move(carpeta)) {}
 
 TProveedorDbase::TProveedorDbase(const std::map<std::string, std::filesystem::path>& carpetas) {
     for (const auto& [alias, carpeta] : carpetas) carpetas_[EnMayusculas(alias)] = carpeta;
@@ -65,15 +66,15 @@ std::filesystem::path TProveedorDbase::Carpeta(std::string_view alias) const {
 
 // The file of the folder with that name in whatever case; the exact name first.
 TProveedorDbase::TFicheroTabla TProveedorDbase::BuscaFichero(const std::filesystem::path& carpeta,
-                                                             const std::string& nombre) {
+                                                             const std::string& nombre) const {
     const std::filesystem::path exacta = carpeta / nombre;
-    if (const TMarcaFichero marca = MarcaDeFichero(exacta); marca.Existe) return {exacta, marca};
+    if (const TMarcaFichero marca = marca_(exacta); marca.Existe) return {exacta, marca};
     const std::string buscado = EnMayusculas(nombre);
     std::error_code error;
     std::filesystem::directory_iterator entrada(carpeta, error);
     for (; !error && entrada != std::filesystem::directory_iterator(); entrada.increment(error))
         if (EnMayusculas(Ansi(entrada->path().filename())) == buscado)
-            return {entrada->path(), MarcaDeFichero(entrada->path())};
+            return {entrada->path(), marca_(entrada->path())};
     throw ErrorTabla("La tabla " + nombre + std::string(" no está en la carpeta "_ansi) + Ansi(carpeta));
 }
 
@@ -105,9 +106,9 @@ void TProveedorDbase::MiraNota(TEntrada& entrada, const std::filesystem::path& r
 }
 
 std::shared_ptr<const TTablaEnMemoria> TProveedorDbase::Entera(TEntrada& entrada,
-                                                               const std::filesystem::path& ruta) {
+                                                               const std::filesystem::path& ruta) const {
     if (entrada.Tabla != nullptr) return entrada.Tabla;
-    TLecturaFichero lectura = LeeTabla(ruta);
+    TLecturaFichero lectura = LeeTabla(ruta, marca_);
     entrada.Tabla = std::make_shared<const TTablaEnMemoria>(EnMayusculas(Ansi(ruta.stem())),
                                                             std::move(lectura.Bytes), Ansi(ruta));
     entrada.Marca = lectura.Marca;
@@ -143,7 +144,7 @@ std::unique_ptr<TTabla> TProveedorDbase::Abre(std::string_view alias, std::strin
     if (enOrden == nullptr) return AbreEntera(hallado, indice);
     return std::make_unique<TTablaOrdenadaDbf>(enOrden, indice,
                                                [this, ruta = hallado.Ruta, indice = std::string(indice)] {
-                                                   return AbreEntera({ruta, MarcaDeFichero(ruta)}, indice);
+                                                   return AbreEntera({ruta, marca_(ruta)}, indice);
                                                });
 }
 

@@ -23,8 +23,8 @@ namespace analizador {
 // it.
 class TProveedorDbase : public TProveedorTablas {
   public:
-    // All aliases stand for one folder.
-    explicit TProveedorDbase(std::filesystem::path carpeta);
+    // All aliases stand for one folder. `marca`: MarcaDeFichero, except in tests.
+    explicit TProveedorDbase(std::filesystem::path carpeta, TTomaMarca marca = MarcaDeFichero);
     // The folder of each alias; aliases are compared without regard to case.
     explicit TProveedorDbase(const std::map<std::string, std::filesystem::path>& carpetas);
 
@@ -48,12 +48,12 @@ class TProveedorDbase : public TProveedorTablas {
         TMarcaFichero Marca;
     };
 
-    [[nodiscard]] static TFicheroTabla BuscaFichero(const std::filesystem::path& carpeta,
-                                                    const std::string& nombre);
+    [[nodiscard]] TFicheroTabla BuscaFichero(const std::filesystem::path& carpeta,
+                                             const std::string& nombre) const;
     static void Renueva(TEntrada& entrada, const TMarcaFichero& marca);
     static void MiraNota(TEntrada& entrada, const std::filesystem::path& ruta);
-    [[nodiscard]] static std::shared_ptr<const TTablaEnMemoria> Entera(TEntrada& entrada,
-                                                                       const std::filesystem::path& ruta);
+    [[nodiscard]] std::shared_ptr<const TTablaEnMemoria> Entera(TEntrada& entrada,
+                                                                const std::filesystem::path& ruta) const;
     [[nodiscard]] std::filesystem::path Carpeta(std::string_view alias) const;
     [[nodiscard]] std::shared_ptr<TEntrada> Entrada(const std::filesystem::path& ruta);
     // None when the whole table is to be used.
@@ -61,6 +61,7 @@ class TProveedorDbase : public TProveedorTablas {
                                                            std::string_view indice);
     [[nodiscard]] std::unique_ptr<TTabla> AbreEntera(const TFicheroTabla& fichero, std::string_view indice);
 
+    TTomaMarca marca_ = MarcaDeFichero;
     std::filesystem::path comun_;
     std::map<std::string, std::filesystem::path> carpetas_;
     std::mutex cerrojo_;
