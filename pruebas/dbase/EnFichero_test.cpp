@@ -438,6 +438,13 @@ TEST_F(EnFichero, LoQueNecesitaLaTablaEnteraLaDejaEnMemoria) {
     EXPECT_TRUE(EstaEnMemoria(proveedor, "NOMBRE"));
 }
 
+TEST_F(EnFichero, LaTablaAbiertaValeSinSuProveedor) {
+    Pon(DeCodigos().Bytes());
+    const auto abierta = TProveedorDbase(carpeta_.Ruta()).Abre("NORVEX", TABLA, "CODIGO");
+    EXPECT_TRUE(abierta->Busca({{"CODIGO", "00500"}}));
+    EXPECT_EQ(abierta->CuentaFilas(), static_cast<int>(FILAS));
+}
+
 TEST_F(EnFichero, ElProveedorNoDejaElFicheroAbierto) {
     Pon(DeCodigos().Bytes());
     TProveedorDbase proveedor(carpeta_.Ruta(), MarcaAntigua);
