@@ -1,9 +1,5 @@
 #include "adaptadores/dbase/ProveedorDbase.h"
 
-#include <utility>
-
-#include "adaptadores/dbase/OrdenDbf.h"
-#include "adaptadores/dbase/TablaOrdenadaDbf.h"
 #include "plataforma/Ansi.h"
 
 namespace analizador {
@@ -12,43 +8,16 @@ namespace {
 
 constexpr std::string_view EXTENSION = ".DBF";
 
-std::string EnMayusculas(std::string_view texto) {
-    std::string mayusculas(texto);
-    for (char& c : mayusculas)
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-    return mayusculas;
-}
-
-std::string Ansi(const std::filesystem::path& ruta) {
-    const std::u8string utf8 = ruta.u8string();
-    return AnsiDeUtf8(std::string(utf8.begin(), utf8.end()));
-}
-
 std::string ConExtension(std::string_view fichero) {
     std::string nombre(fichero);
     if (!EnMayusculas(nombre).ends_with(EXTENSION)) nombre += EXTENSION;
     return nombre;
 }
 
-TLecturaFichero LeeTabla(const std::filesystem::path& ruta) {
-    TLecturaFichero lectura = LeeFichero(ruta);
-    switch (lectura.Estado) {
-        case TEstadoLectura::Entera:
-            return lectura;
-        case TEstadoLectura::SinPermiso:
-        case TEstadoLectura::NoSeAbre:
-            throw ErrorTabla("La tabla " + Ansi(ruta) + " no se puede abrir");
-        case TEstadoLectura::NoSeLee:
-            throw ErrorTabla("La tabla " + Ansi(ruta) + " no se puede leer");
-        case TEstadoLectura::Cambia:
-            break;
-    }
-    throw ErrorTabla("La tabla " + Ansi(ruta) + std::string(" está cambiando mientras se lee"_ansi));
-}
-
 }  // namespace
 
-TProveedorDbase::TProveedorDbase(std::filesystem::path carpeta) : comun_(std::move(carpeta)) {}
+TProveedorDbase::TProveedorDbase(std::filesystem::path carpeta, TTomaMarca tomaMarca)
+    : tomaMarca_(std::move(tomaMarca)), comun_(std::move(carpeta)) {}
 
 TProveedorDbase::TProveedorDbase(const std::map<std::string, std::filesystem::path>& carpetas) {
     for (const auto& [alias, carpeta] : carpetas) carpetas_[EnMayusculas(alias)] = carpeta;
@@ -63,88 +32,32 @@ std::filesystem::path TProveedorDbase::Carpeta(std::string_view alias) const {
     return carpeta->second;
 }
 
-// The file of the folder with that name in whatever case; the exact name first.
-TProveedorDbase::TFicheroTabla TProveedorDbase::BuscaFichero(const std::filesystem::path& carpeta,
-                                                             const std::string& nombre) {
-    const std::filesystem::path exacta = carpeta / nombre;
-    if (const TMarcaFichero marca = MarcaDeFichero(exacta); marca.Existe) return {exacta, marca};
+// The file of the folder with that name in whatever case, the exact name first; and its mark.
+std::pair<std::filesystem::path, TMarcaFichero> TProveedorDbase::BuscaFichero(
+    const std::filesystem::path& carpeta, const std::string& nombre) const {
+    std::filesystem::path ruta = carpeta / nombre;
+    if (const TMarcaFichero marca = tomaMarca_(ruta); marca.Existe) return {std::move(ruta), marca};
     const std::string buscado = EnMayusculas(nombre);
     std::error_code error;
     std::filesystem::directory_iterator entrada(carpeta, error);
     for (; !error && entrada != std::filesystem::directory_iterator(); entrada.increment(error))
-        if (EnMayusculas(Ansi(entrada->path().filename())) == buscado)
-            return {entrada->path(), MarcaDeFichero(entrada->path())};
-    throw ErrorTabla("La tabla " + nombre + std::string(" no está en la carpeta "_ansi) + Ansi(carpeta));
+        if (EnMayusculas(AnsiDeRuta(entrada->path().filename())) == buscado)
+            return {entrada->path(), tomaMarca_(entrada->path())};
+    throw ErrorTabla("La tabla " + nombre + std::string(" no está en la carpeta "_ansi) +
+                     AnsiDeRuta(carpeta));
 }
 
-std::shared_ptr<TProveedorDbase::TEntrada> TProveedorDbase::Entrada(const std::filesystem::path& ruta) {
+std::shared_ptr<TFicheroTabla> TProveedorDbase::Fichero(const std::filesystem::path& ruta) {
     const std::lock_guard guarda(cerrojo_);
-    std::shared_ptr<TEntrada>& entrada = entradas_[ruta.native()];
-    if (entrada == nullptr) entrada = std::make_shared<TEntrada>();
-    return entrada;
-}
-
-// Forgets what was kept of another content, or may have been.
-void TProveedorDbase::Renueva(TEntrada& entrada, const TMarcaFichero& marca) {
-    if (!marca.Reciente && marca == entrada.Marca) return;
-    entrada.Marca = marca;
-    entrada.NotaMirada = false;
-    entrada.EnFichero.reset();
-    entrada.Tabla.reset();
-}
-
-// A note that counted, or did not, goes on so as long as the table's mark says that nobody touched it.
-void TProveedorDbase::MiraNota(TEntrada& entrada, const std::filesystem::path& ruta) try {
-    if (std::exchange(entrada.NotaMirada, true)) return;
-    TOrdenesDbf ordenes = OrdenAnotado(ruta, entrada.Marca);
-    if (ordenes.empty()) return;
-    entrada.EnFichero = std::make_shared<TTablaEnFichero>(
-        ruta, entrada.Marca, EnMayusculas(Ansi(ruta.stem())), Ansi(ruta), std::move(ordenes));
-} catch (const ErrorTabla&) {
-    // Whoever reads it whole tells what is wrong with it, if it stays so.
-}
-
-std::shared_ptr<const TTablaEnMemoria> TProveedorDbase::Entera(TEntrada& entrada,
-                                                               const std::filesystem::path& ruta) {
-    if (entrada.Tabla != nullptr) return entrada.Tabla;
-    TLecturaFichero lectura = LeeTabla(ruta);
-    entrada.Tabla = std::make_shared<const TTablaEnMemoria>(EnMayusculas(Ansi(ruta.stem())),
-                                                            std::move(lectura.Bytes), Ansi(ruta));
-    entrada.Marca = lectura.Marca;
-    entrada.EnFichero.reset();
-    return entrada.Tabla;
-}
-
-std::unique_ptr<TTabla> TProveedorDbase::AbreEntera(const TFicheroTabla& fichero, std::string_view indice) {
-    const std::shared_ptr<TEntrada> entrada = Entrada(fichero.Ruta);
-    std::unique_lock guarda(entrada->Cerrojo);
-    Renueva(*entrada, fichero.Marca);
-    std::shared_ptr<const TTablaEnMemoria> tabla = Entera(*entrada, fichero.Ruta);
-    guarda.unlock();
-    return std::make_unique<TTablaDbase>(std::move(tabla), indice);
-}
-
-std::shared_ptr<TTablaEnFichero> TProveedorDbase::EnOrden(const TFicheroTabla& fichero,
-                                                          std::string_view indice) {
-    if (indice.empty()) return nullptr;
-    const std::shared_ptr<TEntrada> entrada = Entrada(fichero.Ruta);
-    const std::lock_guard guarda(entrada->Cerrojo);
-    Renueva(*entrada, fichero.Marca);
-    if (entrada->Tabla != nullptr) return nullptr;
-    MiraNota(*entrada, fichero.Ruta);
-    const std::shared_ptr<TTablaEnFichero>& tabla = entrada->EnFichero;
-    return tabla != nullptr && tabla->ConoceOrden(indice) && !tabla->CompensaEntera() ? tabla : nullptr;
+    std::shared_ptr<TFicheroTabla>& fichero = ficheros_[ruta.native()];
+    if (fichero == nullptr) fichero = std::make_shared<TFicheroTabla>(ruta, tomaMarca_);
+    return fichero;
 }
 
 std::unique_ptr<TTabla> TProveedorDbase::Abre(std::string_view alias, std::string_view fichero,
                                               std::string_view indice) {
-    const TFicheroTabla hallado = BuscaFichero(Carpeta(alias), ConExtension(fichero));
-    const std::shared_ptr<TTablaEnFichero> enOrden = EnOrden(hallado, indice);
-    if (enOrden == nullptr) return AbreEntera(hallado, indice);
-    return std::make_unique<TTablaOrdenadaDbf>(enOrden, indice,
-                                               [this, ruta = hallado.Ruta, indice = std::string(indice)] {
-                                                   return AbreEntera({ruta, MarcaDeFichero(ruta)}, indice);
-                                               });
+    const auto [ruta, marca] = BuscaFichero(Carpeta(alias), ConExtension(fichero));
+    return Fichero(ruta)->Abre(marca, indice);
 }
 
 }  // namespace analizador

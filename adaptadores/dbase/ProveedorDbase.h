@@ -8,23 +8,20 @@
 #include <mutex>
 #include <string>
 #include <string_view>
+#include <utility>
 
-#include "adaptadores/dbase/TablaDbase.h"
-#include "adaptadores/dbase/TablaEnFichero.h"
+#include "adaptadores/dbase/FicheroTabla.h"
 #include "plataforma/Rficheros.h"
 #include "plataforma/Ruttb.h"
 
 namespace analizador {
 
-// Every opening sees the file as it is at that moment; in between no file stays open. The content is kept in
-// memory with its indexes for as long as the file's mark says that it is the same. Of a table beside which
-// the order of the index asked for is noted (OrdenDbf.h) only the rows found are read, until so many searches
-// were made that the whole table costs less. Usable from several threads; the tables opened must not outlive
-// it.
+// Every opening sees the file as it is at that moment; in between no file stays open, and its content is kept
+// (FicheroTabla.h). Usable from several threads.
 class TProveedorDbase : public TProveedorTablas {
   public:
-    // All aliases stand for one folder.
-    explicit TProveedorDbase(std::filesystem::path carpeta);
+    // All aliases stand for one folder. `tomaMarca`: MarcaDeFichero, except in tests.
+    explicit TProveedorDbase(std::filesystem::path carpeta, TTomaMarca tomaMarca = MarcaDeFichero);
     // The folder of each alias; aliases are compared without regard to case.
     explicit TProveedorDbase(const std::map<std::string, std::filesystem::path>& carpetas);
 
@@ -34,37 +31,16 @@ class TProveedorDbase : public TProveedorTablas {
                                                std::string_view indice) override;
 
   private:
-    // What is kept of a file; all of it of the content under the mark.
-    struct TEntrada {
-        std::mutex Cerrojo;
-        TMarcaFichero Marca;
-        bool NotaMirada = false;
-        std::shared_ptr<TTablaEnFichero> EnFichero;  // none without a note
-        std::shared_ptr<const TTablaEnMemoria> Tabla;
-    };
-    // The file that a name stands for, and its mark.
-    struct TFicheroTabla {
-        std::filesystem::path Ruta;
-        TMarcaFichero Marca;
-    };
-
-    [[nodiscard]] static TFicheroTabla BuscaFichero(const std::filesystem::path& carpeta,
-                                                    const std::string& nombre);
-    static void Renueva(TEntrada& entrada, const TMarcaFichero& marca);
-    static void MiraNota(TEntrada& entrada, const std::filesystem::path& ruta);
-    [[nodiscard]] static std::shared_ptr<const TTablaEnMemoria> Entera(TEntrada& entrada,
-                                                                       const std::filesystem::path& ruta);
     [[nodiscard]] std::filesystem::path Carpeta(std::string_view alias) const;
-    [[nodiscard]] std::shared_ptr<TEntrada> Entrada(const std::filesystem::path& ruta);
-    // None when the whole table is to be used.
-    [[nodiscard]] std::shared_ptr<TTablaEnFichero> EnOrden(const TFicheroTabla& fichero,
-                                                           std::string_view indice);
-    [[nodiscard]] std::unique_ptr<TTabla> AbreEntera(const TFicheroTabla& fichero, std::string_view indice);
+    [[nodiscard]] std::pair<std::filesystem::path, TMarcaFichero> BuscaFichero(
+        const std::filesystem::path& carpeta, const std::string& nombre) const;
+    [[nodiscard]] std::shared_ptr<TFicheroTabla> Fichero(const std::filesystem::path& ruta);
 
+    TTomaMarca tomaMarca_ = MarcaDeFichero;
     std::filesystem::path comun_;
     std::map<std::string, std::filesystem::path> carpetas_;
     std::mutex cerrojo_;
-    std::map<std::filesystem::path::string_type, std::shared_ptr<TEntrada>> entradas_;
+    std::map<std::filesystem::path::string_type, std::shared_ptr<TFicheroTabla>> ficheros_;
 };
 
 }  // namespace analizador

@@ -12,7 +12,7 @@ namespace {
 constexpr std::uint64_t VECINOS = 16;
 
 // A search costs about as much as reading that many bytes of a whole table with its index.
-constexpr std::uint64_t BYTES_POR_BUSQUEDA = 4096;
+constexpr std::uint64_t BYTES_POR_BUSQUEDA = 8192;
 constexpr std::uint64_t MAYOR_EN_MEMORIA = 16 << 20;  // bytes
 
 // A row of another table, or of none: nothing found is to be believed.

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "adaptadores/dbase/OrdenDbf.h"
 #include "plataforma/Rficheros.h"
 
 namespace analizador {
@@ -69,6 +70,24 @@ TEST_F(Programa, HaceTodasLasTablas) {
         const std::string contenido = Contenido(Ruta("TABLAS") / nombre);
         EXPECT_EQ(contenido.substr(0, 1), "\x03") << nombre;
         EXPECT_EQ(contenido, Contenido(Ruta("otras") / "nuevas" / nombre)) << nombre;
+    }
+}
+
+// An old note is never left beside a new table, and the new one survives a copy that keeps whole seconds.
+TEST_F(Programa, AnotaElOrdenDeLasTablasGrandes) {
+    const auto ordenes = [&](const char* tabla) {
+        const auto ruta = Ruta("TABLAS") / (std::string(tabla) + ".DBF");
+        return OrdenAnotado(ruta, MarcaDeFichero(ruta));
+    };
+    for (int vez = 0; vez < 2; ++vez) {
+        EXPECT_EQ(Ejecuta("").Codigo, 0);
+        EXPECT_TRUE(ordenes("PILA").contains("NOMBRE"));
+        EXPECT_TRUE(ordenes("MUNICIPI").contains("NOM_MUNICI"));
+        EXPECT_TRUE(ordenes("MUNICIPI").contains("CODPOSTAL"));
+        EXPECT_TRUE(ordenes("POSTAL").contains("NOMBREVIA"));
+        EXPECT_TRUE(ordenes("TIPOS").empty());
+        EXPECT_FALSE(std::filesystem::exists(Ruta("TABLAS") / "TIPOS.ORD"));
+        EXPECT_EQ(MarcaDeFichero(Ruta("TABLAS") / "PILA.DBF").Modificado % 2'000'000'000, 0);
     }
 }
 
