@@ -3,12 +3,13 @@
 // What every call from a host has in common: nothing is thrown, the reason of a failure is kept, and the
 // host's floating-point settings (some trap what is harmless here) are put aside.
 
+#include <array>
 #include <atomic>
 #include <cfenv>
+#include <cstddef>
 #include <exception>
 #include <new>
-#include <string>
-#include <vector>
+#include <type_traits>
 
 #include "adaptadores/ini/ConfigIni.h"
 #include "programas/biblioteca/ErrorInterfaz.h"
@@ -17,20 +18,24 @@
 
 namespace analizador {
 
-// Why the last call failed, in both encodings; empty when it did not.
+// Why the last call failed, in both encodings; empty when it did not. There is one for each thread, and the
+// code that would destroy it may be gone, or (MinGW) come after its memory: so it has nothing to destroy.
 class TMotivo {
   public:
     void Olvida() noexcept;
-    // Without memory for the text a fixed one stands for it.
+    // On one line; what is longer than a host shows is cut at a letter. Without memory a fixed text stands
+    // for it.
     void Pon(const char* motivo) noexcept;
 
-    [[nodiscard]] const char* Texto() const { return FTexto.c_str(); }
-    [[nodiscard]] const analizador_utf16* Texto16() const;
+    [[nodiscard]] const char* Texto() const { return FTexto.data(); }
+    [[nodiscard]] const analizador_utf16* Texto16() const { return FTexto16.data(); }
 
   private:
-    std::string FTexto;
-    std::vector<analizador_utf16> FTexto16;
+    static constexpr std::size_t MAXIMO = 4096;  // units, with the zero
+    std::array<char, MAXIMO> FTexto{};
+    std::array<analizador_utf16, MAXIMO> FTexto16{};
 };
+static_assert(std::is_trivially_destructible_v<TMotivo>);
 
 // That of the calls of this thread that have no session.
 [[nodiscard]] TMotivo& MotivoDelHilo();

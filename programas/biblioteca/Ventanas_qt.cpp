@@ -3,6 +3,7 @@
 #include "adaptadores/qt/VentanaAjena.h"
 #include "plataforma/CarpetaPrivada.h"
 #include "programas/biblioteca/ErrorInterfaz.h"
+#include "programas/biblioteca/Modulo_windows.h"
 #include "programas/biblioteca/Ventanas.h"
 #include "programas/biblioteca/analizador.h"
 
@@ -28,6 +29,7 @@ class TVentanasQt : public TVentanasRevision {
 }  // namespace
 
 std::unique_ptr<TVentanasRevision> AbreVentanas(std::intptr_t sobre) {
+    FijaModulo();
     return std::make_unique<TVentanasQt>(sobre);
 }
 

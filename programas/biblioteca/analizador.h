@@ -115,7 +115,8 @@ ANALIZADOR_API int analizador_abre16(int interfaz, const analizador_utf16* vocab
 ANALIZADOR_API void analizador_cierra(analizador_sesion* sesion);
 
 /* Why the last call with this session failed; "" when it did not. NULL: the same of the last call of this
-   thread that had no session. Valid until the next call with the session (of the thread). Never NULL. */
+   thread that had no session. Valid until the next call with the session (of the thread). Never NULL. What is
+   longer than 4,095 bytes of UTF-8 is cut at a letter. */
 ANALIZADOR_API const char* analizador_error(analizador_sesion* sesion);
 ANALIZADOR_API const analizador_utf16* analizador_error16(analizador_sesion* sesion);
 

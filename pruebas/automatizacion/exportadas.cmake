@@ -1,5 +1,6 @@
-# The library for Windows shows the functions of its header and what its list of exports says, and nothing else. Run with
-# -DBIBLIOTECA=<dll> -DCARPETA=<programas/biblioteca> -DOBJDUMP=<program>.
+# The library for Windows shows the functions of its header and what its list of exports says, and nothing else but, with
+# the windows, a function of their toolkit's for debuggers. Run with -DBIBLIOTECA=<dll> -DCARPETA=<programas/biblioteca>
+# -DOBJDUMP=<program> -DCON_VENTANAS=<0 or 1>.
 file(STRINGS ${CARPETA}/analizador.h lineas REGEX "^ANALIZADOR_API ")
 string(REGEX MATCHALL "analizador_[a-z0-9_]+\\(" esperadas "${lineas}")
 list(TRANSFORM esperadas REPLACE "\\(" "")
@@ -15,6 +16,9 @@ string(REGEX REPLACE "\n[ \t]*\n.*" "" tabla "${tabla}")
 string(REGEX MATCHALL "[A-Za-z_][A-Za-z0-9_]+(\n|$)" exportadas "${tabla}")
 list(TRANSFORM exportadas STRIP)
 
+if(CON_VENTANAS)
+  list(APPEND esperadas qt_startup_hook)
+endif()
 list(SORT esperadas)
 list(SORT exportadas)
 list(LENGTH esperadas cuantas)

@@ -74,6 +74,18 @@ TEST_F(FallosBiblioteca, UnFicheroQueNoSirveDiceCualYPorQue) {
     }
 }
 
+TEST_F(FallosBiblioteca, UnMotivoLargoSeCortaEnUnaLetra) {
+    for (const std::string nombre : {"/", "/x"}) {
+        std::string fichero = nombre;
+        for (int i = 0; i < 3'000; ++i) fichero += "ñ";
+        EXPECT_EQ(analizador_analiza_fichero(sesion_.get(), fichero.c_str(), 0), ANALIZADOR_NO_ANALIZADA);
+        const std::size_t letras = (4'095 - nombre.size()) / 2;
+        EXPECT_EQ(Error(sesion_), fichero.substr(0, nombre.size() + 2 * letras));
+        const auto error16 = Texto16(analizador_error16(sesion_.get()));
+        EXPECT_EQ(error16.substr(nombre.size()), std::u16string(letras, u'ñ'));
+    }
+}
+
 TEST_F(FallosBiblioteca, SinSusTablasNoSeAnaliza) {
     const TCarpetaTemporal carpeta;
     sesion_.reset();

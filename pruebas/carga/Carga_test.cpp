@@ -8,6 +8,9 @@
 #include <thread>
 
 #include "programas/biblioteca/analizador.h"
+#ifdef CON_VENTANAS
+#include "pruebas/automatizacion/Teclado.h"
+#endif
 #ifdef _WIN32
 #include <windows.h>
 #else
@@ -75,14 +78,17 @@ class TSesion {
 
     // The notary that it reads in a text.
     [[nodiscard]] std::string Notario() const {
-        const int resultado = Pide<decltype(analizador_analiza_texto)>("analizador_analiza_texto")(
-            FSesion, "ESCRITURA DE COMPRAVENTA.\rAnte mi, ALFONSO REQUEJO, Notario de Madrid,\r", 0);
-        if (resultado != ANALIZADOR_BIEN) return "(failed)";
+        if (Analiza(0) != ANALIZADOR_BIEN) return "(failed)";
         return Pide<decltype(analizador_texto)>("analizador_texto")(FSesion, "/Cabecera/Notario");
     }
+    [[nodiscard]] int Revisa() const { return Analiza(ANALIZADOR_CON_REVISION); }
     int Resultado = ANALIZADOR_FALLO;
 
   private:
+    [[nodiscard]] int Analiza(unsigned opciones) const {
+        return Pide<decltype(analizador_analiza_texto)>("analizador_analiza_texto")(
+            FSesion, "ESCRITURA DE COMPRAVENTA.\rAnte mi, ALFONSO REQUEJO, Notario de Madrid,\r", opciones);
+    }
     template <class TFuncion>
     [[nodiscard]] TFuncion* Pide(const char* nombre) const {
         return FBiblioteca.Funcion<TFuncion>(nombre);
@@ -126,6 +132,19 @@ TEST(CargaBiblioteca, UnHiloQueLaUsoAcabaDespuesDeDescargarla) {
             EXPECT_EQ(sesion.Notario(), "ALFONSO REQUEJO");
         }).join();
 }
+
+#ifdef CON_VENTANAS
+// The windows leave in the process what is code of the library.
+TEST(CargaBiblioteca, LaQueMostroVentanasSeQueda) {
+    std::thread([] {
+        const TBiblioteca biblioteca;
+        const TSesion sesion(biblioteca, OTRA);
+        const pruebas::TTeclado teclado(L"Lista de Conceptos de la Escritura", {VK_ESCAPE});
+        EXPECT_EQ(sesion.Revisa(), ANALIZADOR_BIEN);
+    }).join();
+    EXPECT_NE(GetModuleHandleW(L"analizador.dll"), nullptr);
+}
+#endif
 
 }  // namespace
 }  // namespace analizador

@@ -23,6 +23,7 @@
 #include "pruebas/comun/ConfigDePrueba.h"
 #include "pruebas/comun/Literales.h"
 #include "pruebas/qt/Camara.h"
+#include "pruebas/qt/SinPantalla.h"
 
 namespace {
 
@@ -160,7 +161,7 @@ void Todas(TCamara& camara, const std::string& sufijo) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    pruebas::PintaSinPantalla();
     const QApplication aplicacion(argc, argv);
     if (argc != 2) {
         std::fprintf(stderr, "usage: capturas FOLDER\n");

@@ -1,10 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QByteArray>
+
+#include "pruebas/qt/SinPantalla.h"
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    analizador::pruebas::PintaSinPantalla();
     testing::InitGoogleTest(&argc, argv);
     const QApplication aplicacion(argc, argv);
     return RUN_ALL_TESTS();
