@@ -71,6 +71,17 @@ TEST_F(InterfazWindows, LeeFicherosYLosQueFaltanLosDiceConSuNombre) {
 }
 #endif
 
+TEST_F(InterfazWindows, DosSesionesConLasMismasCarpetas) {
+    for (const std::string separador : {"", "/", "\\"}) {
+        analizador_sesion* otra = nullptr;
+        EXPECT_EQ(analizador_abre(2, (CARPETA_VOCABULARIO + separador).c_str(),
+                                  (CARPETA_TABLAS + separador).c_str(), &otra),
+                  ANALIZADOR_BIEN)
+            << analizador_error(nullptr);
+        analizador_cierra(otra);
+    }
+}
+
 TEST_F(InterfazWindows, LasCarpetasSeDicenEnUtf8) {
     Sesion.reset();
     analizador_sesion* sesion = nullptr;
