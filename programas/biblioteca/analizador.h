@@ -123,8 +123,8 @@ ANALIZADOR_API const analizador_utf16* analizador_error16(analizador_sesion* ses
 /* ---- Analyses. Each one first forgets the results of the one before, and with them their texts. */
 
 /* Analyses a document file (.docx, .docm, .dotx, .dotm), which is read whole and never written. `opciones`:
-   ANALIZADOR_CON_REVISION, ANALIZADOR_CON_ORIGEN. On Windows ANALIZADOR_NO_ANALIZADA: there the library reads
-   no files. */
+   ANALIZADOR_CON_REVISION, ANALIZADOR_CON_ORIGEN. ANALIZADOR_NO_ANALIZADA where the library was built without
+   what reads files, as it may be on Windows. */
 ANALIZADOR_API int analizador_analiza_fichero(analizador_sesion* sesion, const char* fichero,
                                               unsigned opciones);
 ANALIZADOR_API int analizador_analiza_fichero16(analizador_sesion* sesion, const analizador_utf16* fichero,
