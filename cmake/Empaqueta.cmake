@@ -15,6 +15,10 @@ install(FILES adaptadores/word/AplicacionWord.h DESTINATION include/adaptadores/
 install(FILES programas/biblioteca/AjustesCompartidos.h
         DESTINATION include/programas/biblioteca COMPONENT paquete EXCLUDE_FROM_ALL)
 install(DIRECTORY docs DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
+analizador_licencias(licencias paquete mingw-w64-x86-64-dev nlohmann-json3-dev libcli11-dev)
+if(ANALIZADOR_DOCX)
+  analizador_licencias(licencias paquete libpugixml-dev libzip-dev libz-mingw-w64-dev)
+endif()
 if(TARGET analizador_qt)
   # What whoever gets Qt's code must get with it.
   install(DIRECTORY ${qt_windows}/licencias/ DESTINATION licencias/Qt COMPONENT paquete EXCLUDE_FROM_ALL)

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "adaptadores/docx/FicheroDocx.h"
+#include "plataforma/Encuentra.h"
 #include "plataforma/FicheroIni.h"
 #include "plataforma/Rut.h"
 
@@ -33,7 +34,8 @@ std::vector<std::string> Entradas(const TFicheroIni& vocabulario) {
 std::size_t UnaAUna(const std::vector<std::string>& entradas, std::string_view texto) {
     std::size_t cuenta = 0;
     for (const std::string& entrada : entradas)
-        for (auto p = texto.find(entrada); p != std::string_view::npos; p = texto.find(entrada, p + 1))
+        for (auto p = Encuentra(texto, entrada); p != std::string_view::npos;
+             p = Encuentra(texto, entrada, p + 1))
             ++cuenta;
     return cuenta;
 }

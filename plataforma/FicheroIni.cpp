@@ -41,38 +41,61 @@ const TFicheroIni::Clave* BuscaClave(const TFicheroIni::Seccion& seccion, std::s
     return donde == seccion.Claves.end() ? nullptr : &*donde;
 }
 
-// Entries beyond the last one that the file gives are empty and find nothing, so the list ends there,
-// whatever count the file claims.
-std::vector<std::string> ListaDePalabras(const TFicheroIni::Seccion& seccion) {
+struct TEntrada {
+    std::size_t Numero;
+    const TFicheroIni::Clave* Clave;
+};
+
+// Those that count, by number; of two equal ones the first of the file stands first.
+std::vector<TEntrada> Entradas(const TFicheroIni::Seccion& seccion) {
+    std::vector<TEntrada> entradas;
     const auto* const cuenta = BuscaClave(seccion, "NumPalabras");
     const int n = cuenta == nullptr ? 0 : Cad_Int(cuenta->Valor);
-    std::vector<std::optional<std::string>> entradas;
-    for (const auto& clave : seccion.Claves) {
-        const auto numero = NumeroDeEntrada(clave.Nombre);
-        if (!numero || n <= 0 || *numero > static_cast<std::size_t>(n)) continue;
-        if (*numero > seccion.Claves.size() * 64 + 64) continue;  // a stray key must not cost memory
-        if (entradas.size() < *numero) entradas.resize(*numero);
-        if (auto& entrada = entradas[*numero - 1]; !entrada) entrada = clave.Valor;
-    }
+    if (n <= 0) return entradas;
+    entradas.reserve(seccion.Claves.size());
+    for (const auto& clave : seccion.Claves)
+        if (const auto numero = NumeroDeEntrada(clave.Nombre);
+            numero && *numero <= static_cast<std::size_t>(n))
+            entradas.push_back({*numero, &clave});
+    if (!std::ranges::is_sorted(entradas, {}, &TEntrada::Numero))
+        std::ranges::stable_sort(entradas, {}, &TEntrada::Numero);
+    return entradas;
+}
+
+// Entries beyond the last one that the file gives are empty and find nothing, so the list ends there,
+// whatever count the file claims. It also ends before a stray key so far away that more entries than `huecos`
+// would be missing; what it lacks is taken from them.
+std::vector<std::string> ListaDePalabras(const TFicheroIni::Seccion& seccion, std::size_t& huecos) {
+    const auto entradas = Entradas(seccion);
     std::vector<std::string> palabras;
     palabras.reserve(entradas.size());
-    for (auto& entrada : entradas) palabras.push_back(std::move(entrada).value_or(std::string()));
+    for (const auto& [numero, clave] : entradas) {
+        if (numero <= palabras.size()) continue;  // repeated
+        const std::size_t faltan = numero - palabras.size() - 1;
+        if (faltan > huecos) break;
+        huecos -= faltan;
+        palabras.resize(numero - 1);
+        palabras.emplace_back(clave->Valor);
+    }
     return palabras;
+}
+
+std::string SinMarcaUtf8(std::string_view bytes) {
+    if (bytes.substr(0, MARCA_UTF8.size()) != MARCA_UTF8) return std::string(bytes);
+    return AnsiDeUtf8(bytes.substr(MARCA_UTF8.size()));
 }
 
 }  // namespace
 
-TFicheroIni::TFicheroIni(std::string_view bytes) {
-    std::string convertido;
-    if (bytes.substr(0, MARCA_UTF8.size()) == MARCA_UTF8) {
-        convertido = AnsiDeUtf8(bytes.substr(MARCA_UTF8.size()));
-        bytes = convertido;
-    }
+TFicheroIni::TFicheroIni(std::string_view bytes)
+    : texto_(std::make_shared<const std::string>(SinMarcaUtf8(bytes))) {
+    // An empty entry takes some thirty bytes: those of a file no more than four times its size, and a few.
+    std::size_t huecos = 8192 + bytes.size() / 8;
     int numero = 0;
-    while (!bytes.empty()) {
-        const auto fin = bytes.find('\n');
-        const std::string_view linea = Recorta(bytes.substr(0, fin));
-        bytes.remove_prefix(fin == std::string_view::npos ? bytes.size() : fin + 1);
+    for (std::string_view resto = *texto_; !resto.empty();) {
+        const auto fin = resto.find('\n');
+        const std::string_view linea = Recorta(resto.substr(0, fin));
+        resto.remove_prefix(fin == std::string_view::npos ? resto.size() : fin + 1);
         ++numero;
         if (linea.empty() || linea.front() == ';') continue;
         if (linea.front() == '[') {
@@ -81,13 +104,12 @@ TFicheroIni::TFicheroIni(std::string_view bytes) {
                 secciones_.push_back({std::string(Recorta(linea.substr(1, cierre - 1))), {}, numero});
         } else if (const auto igual = linea.find('=');
                    igual != std::string_view::npos && !secciones_.empty()) {
-            secciones_.back().Claves.push_back({std::string(Recorta(linea.substr(0, igual))),
-                                                std::string(SinComillas(Recorta(linea.substr(igual + 1)))),
-                                                numero});
+            secciones_.back().Claves.push_back(
+                {Recorta(linea.substr(0, igual)), SinComillas(Recorta(linea.substr(igual + 1))), numero});
         }
     }
     for (const auto& seccion : secciones_)
-        palabras_.emplace_back(AnsiUpperCase(seccion.Nombre), ListaDePalabras(seccion));
+        palabras_.emplace_back(AnsiUpperCase(seccion.Nombre), ListaDePalabras(seccion, huecos));
     // Stable, so that of two equal sections the first stands first and is the one found.
     std::stable_sort(palabras_.begin(), palabras_.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });
@@ -104,7 +126,7 @@ std::string TFicheroIni::LeeTexto(std::string_view seccion, std::string_view cla
                                   std::string_view defecto) const {
     const Seccion* const encontrada = BuscaSeccion(seccion);
     const Clave* const valor = encontrada == nullptr ? nullptr : BuscaClave(*encontrada, clave);
-    return valor == nullptr ? std::string(defecto) : valor->Valor;
+    return std::string(valor == nullptr ? defecto : valor->Valor);
 }
 
 int TFicheroIni::LeeEntero(std::string_view seccion, std::string_view clave, int defecto) const {

@@ -16,9 +16,10 @@ namespace analizador {
 // pair of double quotes around it.
 class TFicheroIni {
   public:
+    // Its texts live as long as any copy of the object.
     struct Clave {
-        std::string Nombre;
-        std::string Valor;
+        std::string_view Nombre;
+        std::string_view Valor;
         int Linea = 0;  // from 1
     };
     struct Seccion {
@@ -44,6 +45,7 @@ class TFicheroIni {
     [[nodiscard]] const std::vector<Seccion>& Secciones() const { return secciones_; }
 
   private:
+    std::shared_ptr<const std::string> texto_;
     std::vector<Seccion> secciones_;
     std::vector<std::pair<std::string, std::vector<std::string>>>
         palabras_;  // by section in capitals, sorted

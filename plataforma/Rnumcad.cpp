@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "plataforma/Ansi.h"
+#include "plataforma/Encuentra.h"
 
 namespace analizador {
 
@@ -96,7 +97,7 @@ std::string_view StrRight(std::string_view texto, int n) {
 }
 
 int Pos(std::string_view buscado, std::string_view texto) {
-    const auto sitio = buscado.empty() ? std::string_view::npos : texto.find(buscado);
+    const auto sitio = buscado.empty() ? std::string_view::npos : Encuentra(texto, buscado);
     return sitio == std::string_view::npos ? 0 : static_cast<int>(sitio + 1);
 }
 
@@ -106,13 +107,13 @@ int RightPos(std::string_view buscado, std::string_view texto) {
 }
 
 std::string_view RecortaIzquierda(std::string_view texto) {
-    const auto primero = std::find_if_not(texto.begin(), texto.end(), EsBlanco);
-    return texto.substr(static_cast<std::size_t>(primero - texto.begin()));
+    while (!texto.empty() && EsBlanco(texto.front())) texto.remove_prefix(1);
+    return texto;
 }
 
 std::string_view RecortaDerecha(std::string_view texto) {
-    const auto ultimo = std::find_if_not(texto.rbegin(), texto.rend(), EsBlanco);
-    return texto.substr(0, static_cast<std::size_t>(texto.rend() - ultimo));
+    while (!texto.empty() && EsBlanco(texto.back())) texto.remove_suffix(1);
+    return texto;
 }
 
 std::string_view Recorta(std::string_view texto) {

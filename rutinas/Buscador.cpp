@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "analizador/ConstAnalizador.h"
+#include "plataforma/Encuentra.h"
 
 namespace analizador {
 
@@ -11,14 +12,14 @@ TBuscadorEntradas::TBuscadorEntradas(std::string_view seccion, std::string_view 
     int numero = 0;
     for (const std::string& palabra : fichero_->Palabras(seccion)) {
         ++numero;
-        if (!palabra.empty()) entradas_.push_back({palabra, numero, 0, texto_.find(palabra)});
+        if (!palabra.empty()) entradas_.push_back({palabra, numero, 0, Encuentra(texto_, palabra)});
     }
 }
 
 std::size_t TBuscadorEntradas::ProximaDe(TEntrada& entrada, std::size_t desde) const {
     if (desde < entrada.Desde || desde > entrada.Proxima) {
         entrada.Desde = desde;
-        entrada.Proxima = texto_.find(entrada.Texto, desde);
+        entrada.Proxima = Encuentra(texto_, entrada.Texto, desde);
     }
     return entrada.Proxima;
 }

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "analizador/ConstAnalizador.h"
+#include "plataforma/Encuentra.h"
 #include "plataforma/FicheroIni.h"
 #include "plataforma/Rut.h"
 #include "rutinas/RutAnalizador.h"
@@ -13,7 +14,7 @@ bool EsCliente(std::string_view parrafo) {
     return std::any_of(CONST_SECCION_SEXOS.begin(), CONST_SECCION_SEXOS.end(), [&](std::string_view seccion) {
         const auto& entradas = fichero->Palabras(seccion);
         return std::any_of(entradas.begin(), entradas.end(), [&](const std::string& entrada) {
-            return !entrada.empty() && plegado.find(entrada + " ") != std::string::npos;
+            return !entrada.empty() && Encuentra(plegado, entrada + " ") != std::string::npos;
         });
     });
 }
@@ -22,7 +23,7 @@ bool EsUnParrafoDeRepresentacion(std::string_view parrafo) {
     const std::string plegado = Pliega(parrafo);
     const std::vector<std::string> entradas = ListaTokens("REPRESENTACION");
     return std::any_of(entradas.begin(), entradas.end(), [&](const std::string& entrada) {
-        return !entrada.empty() && plegado.find(" " + entrada) != std::string::npos;
+        return !entrada.empty() && Encuentra(plegado, " " + entrada) != std::string::npos;
     });
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "analizador/ConstAnalizador.h"
+#include "plataforma/Encuentra.h"
 #include "plataforma/FicheroIni.h"
 #include "plataforma/Rnumcad.h"
 #include "plataforma/Rut.h"
@@ -29,7 +30,7 @@ class TUltimasApariciones {
     TUltimasApariciones(const TFicheroIni& fichero, std::string_view seccion, std::string_view texto)
         : texto_(texto) {
         for (const std::string& entrada : fichero.Palabras(seccion))
-            if (!entrada.empty()) entradas_.push_back({entrada, NADA, texto_.find(entrada)});
+            if (!entrada.empty()) entradas_.push_back({entrada, NADA, Encuentra(texto_, entrada)});
     }
 
     // The leftmost of them in the text before `limite`, from 1; 0 when no entry stands there.
@@ -38,7 +39,7 @@ class TUltimasApariciones {
         for (TEntrada& entrada : entradas_) {
             while (entrada.Proxima != NADA && entrada.Proxima + entrada.Texto.size() <= limite) {
                 entrada.Ultima = entrada.Proxima;
-                entrada.Proxima = texto_.find(entrada.Texto, entrada.Ultima + 1);
+                entrada.Proxima = Encuentra(texto_, entrada.Texto, entrada.Ultima + 1);
             }
             mejor = std::min(mejor, entrada.Ultima);
         }

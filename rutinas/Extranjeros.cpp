@@ -1,5 +1,9 @@
 #include <algorithm>
 #include <array>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <utility>
 
 #include "analizador/ConstAnalizador.h"
 #include "plataforma/Ansi.h"
@@ -79,16 +83,43 @@ void BuscaPais(TTabla& paises, std::string_view plegado, TExtranjeria& extranjer
     }
 }
 
-// The country of the current row when the text has one of its words. The position is that of the text
-// searched.
-std::optional<TRPais> PaisPorGentilicio(const TTabla& paises, const TPalabrasEnteras& palabras) {
-    for (const std::string_view campo : EsCastellano() ? GENTILICIOS : GENTILICIOS_CATALANES) {
-        const std::string gentilicio = paises.Texto(campo);
-        if (const auto posicion = palabras.Busca(gentilicio))
-            return TRPais{paises.Texto("PROVINCIA"), paises.Entero("CODIGO"), gentilicio,
-                          static_cast<int>(*posicion) + 1};
+struct TGentilicio {
+    std::string Palabra;
+    std::size_t Pais;  // its place in TGentilicios::Paises
+};
+
+// The words of the countries, one country after another as the table has them now, those of each in the order
+// in which they are tried.
+struct TGentilicios {
+    std::vector<TRPais> Paises;
+    std::vector<TGentilicio> Palabras;
+
+    explicit TGentilicios(TTabla& paises) {
+        const auto& campos = EsCastellano() ? GENTILICIOS : GENTILICIOS_CATALANES;
+        for (paises.Primero(); !paises.Fin(); paises.Siguiente()) {
+            for (const std::string_view campo : campos)
+                if (std::string palabra = paises.Texto(campo); !palabra.empty())
+                    Palabras.push_back({std::move(palabra), Paises.size()});
+            Paises.push_back({paises.Texto("PROVINCIA"), paises.Entero("CODIGO"), {}, 0});
+        }
     }
-    return std::nullopt;
+};
+
+// Reading them takes far longer than searching a paragraph, and every paragraph with parties asks for them:
+// so those of the rows seen last are kept, for all threads.
+std::shared_ptr<const TGentilicios> Gentilicios(TTabla& paises) {
+    static std::mutex cerrojo;
+    static std::shared_ptr<const void> contenido;
+    static bool castellanos = true;
+    static std::shared_ptr<const TGentilicios> gentilicios;
+    auto actual = paises.Contenido();
+    const std::lock_guard guarda(cerrojo);
+    if (gentilicios == nullptr || actual == nullptr || actual != contenido || castellanos != EsCastellano()) {
+        gentilicios = std::make_shared<const TGentilicios>(paises);
+        contenido = std::move(actual);
+        castellanos = EsCastellano();
+    }
+    return gentilicios;
 }
 
 // Puts a country in its place by position, before those at the same one.
@@ -102,13 +133,20 @@ void InsertaPais(TPaises& paises, THallazgo<TRPais> pais) {
 TPaises BuscaGentilicios(TTabla& paises, std::string_view plegado) {
     const TTextoConAlmohadillas reescrito(EsCastellano() ? std::string_view{} : plegado);
     const TPalabrasEnteras palabras(EsCastellano() ? plegado : std::string_view(reescrito.Texto()));
+    const auto gentilicios = Gentilicios(paises);
     TPaises hallados;
-    for (paises.Primero(); !paises.Fin(); paises.Siguiente()) {
-        auto pais = PaisPorGentilicio(paises, palabras);
-        if (!pais) continue;
-        Tramo donde{static_cast<std::size_t>(pais->Posicion) - 1, pais->Texto.size()};
+    std::optional<std::size_t> tomado;  // one word of each country counts
+    for (const TGentilicio& gentilicio : gentilicios->Palabras) {
+        if (gentilicio.Pais == tomado) continue;
+        const auto posicion = palabras.Busca(gentilicio.Palabra);
+        if (!posicion) continue;
+        tomado = gentilicio.Pais;
+        TRPais pais = gentilicios->Paises[gentilicio.Pais];
+        pais.Texto = gentilicio.Palabra;
+        pais.Posicion = static_cast<int>(*posicion) + 1;
+        Tramo donde{*posicion, gentilicio.Palabra.size()};
         if (!EsCastellano()) donde = reescrito.Original(donde);
-        InsertaPais(hallados, {std::move(*pais), donde});
+        InsertaPais(hallados, {std::move(pais), donde});
     }
     return hallados;
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "plataforma/Encuentra.h"
+
 namespace analizador {
 
 namespace {
@@ -78,7 +80,8 @@ void TIndiceNombres::Recorre(std::string_view texto,
         }
     }
     for (const auto& [nombre, lineas] : largos_)
-        for (auto inicio = texto.find(nombre); inicio != NADA; inicio = texto.find(nombre, inicio + 1))
+        for (auto inicio = Encuentra(texto, nombre); inicio != NADA;
+             inicio = Encuentra(texto, nombre, inicio + 1))
             visita(*lineas.begin(), {inicio, nombre.size()});
 }
 

@@ -1,3 +1,4 @@
+#include "plataforma/Encuentra.h"
 #include "plataforma/Rut.h"
 #include "rutinas/IndiceNombres.h"
 #include "rutinas/RutAnalizador.h"
@@ -13,7 +14,7 @@ constexpr int NINGUNA = 99;
 constexpr std::size_t NADA = std::string_view::npos;
 
 std::size_t PosicionNombre(std::string_view nombre, std::string_view texto, std::size_t desde = 0) {
-    return nombre.empty() ? NADA : texto.find(nombre, desde);
+    return nombre.empty() ? NADA : Encuentra(texto, nombre, desde);
 }
 
 // Position of the section's phrase, from 1; 0 when none stands there.

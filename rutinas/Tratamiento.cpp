@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "analizador/ConstAnalizador.h"
+#include "plataforma/Encuentra.h"
 #include "plataforma/Rnumcad.h"
 #include "plataforma/Rut.h"
 
@@ -35,7 +36,7 @@ TBuscadorTratamientos::TBuscadorTratamientos(std::string_view plegado)
 void TBuscadorTratamientos::Localiza(TForma& forma) const {
     auto& ocurrencias = forma.Ocurrencias;
     const std::string_view entrada = forma.Entrada;
-    for (std::size_t p = texto_.find(entrada); p != NADA; p = texto_.find(entrada, p + 1)) {
+    for (std::size_t p = Encuentra(texto_, entrada); p != NADA; p = Encuentra(texto_, entrada, p + 1)) {
         if (p + entrada.size() >= texto_.size() || texto_[p + entrada.size()] != ' ') continue;
         const char anterior = p == 0 ? ' ' : texto_[p - 1];
         ocurrencias.push_back({p, anterior == ' ' || anterior == '\n' || anterior == '\r', NADA, 0});

@@ -1,15 +1,17 @@
 #pragma once
 
-// The content of one dBASE file, read whole and never changed afterwards: shared between threads freely.
+// The records of one dBASE file, or some of them, held in memory and never changed afterwards: shared between
+// threads freely.
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "adaptadores/dbase/FormatoDbf.h"
+#include "adaptadores/dbase/EstructuraDbf.h"
 
 namespace analizador {
 
@@ -19,20 +21,26 @@ class TDatosDbf {
     // text names the file, when the bytes are no dBASE table, are cut short, or hold letters of a code page
     // that is not known here.
     TDatosDbf(std::string contenido, std::string fichero);
+    // Some records of a table alone, one after another, their texts in Windows-1252 already.
+    TDatosDbf(std::shared_ptr<const TEstructuraDbf> estructura, std::string registros);
 
-    [[nodiscard]] const std::string& Fichero() const { return fichero_; }
-    [[nodiscard]] const std::vector<TCampoDbf>& Campos() const { return campos_; }
+    [[nodiscard]] const TEstructuraDbf& Estructura() const { return *estructura_; }
+    [[nodiscard]] const std::string& Fichero() const { return estructura_->Fichero(); }
+    [[nodiscard]] const std::vector<TCampoDbf>& Campos() const { return estructura_->Campos(); }
     // The records that are not deleted; rows are numbered from 0 in the stored order.
     [[nodiscard]] std::uint32_t Filas() const { return static_cast<std::uint32_t>(registros_.size()); }
 
-    // By name, without regard to case. Throws ErrorTabla when there is none such. The campo belongs to this.
-    [[nodiscard]] const TCampoDbf& Campo(std::string_view nombre) const;
-    [[nodiscard]] bool TieneCampo(std::string_view nombre) const { return BuscaCampo(nombre) != nullptr; }
+    // As TEstructuraDbf's.
+    [[nodiscard]] const TCampoDbf& Campo(std::string_view nombre) const { return estructura_->Campo(nombre); }
+    [[nodiscard]] bool TieneCampo(std::string_view nombre) const { return estructura_->TieneCampo(nombre); }
 
+    // The row's record as it stands, its texts in Windows-1252.
+    [[nodiscard]] std::string_view Registro(std::uint32_t fila) const {
+        return {contenido_.data() + primero_ + registros_[fila] * longitudRegistro_, longitudRegistro_};
+    }
     // The field's bytes as they stand; a text's are Windows-1252.
     [[nodiscard]] std::string_view Bytes(std::uint32_t fila, const TCampoDbf& campo) const {
-        const std::size_t registro = cabecera_ + registros_[fila] * longitudRegistro_;
-        return {contenido_.data() + registro + campo.Posicion, campo.Longitud};
+        return BytesDe(Registro(fila), campo);
     }
     // The field without the blanks around a number or to the right of a text; a logical one T, F or empty.
     [[nodiscard]] std::string Texto(std::uint32_t fila, const TCampoDbf& campo) const;
@@ -40,22 +48,13 @@ class TDatosDbf {
     [[nodiscard]] std::optional<double> Numero(std::uint32_t fila, const TCampoDbf& campo) const;
 
   private:
-    [[noreturn]] void Falla(std::string_view causa) const;
-    [[nodiscard]] std::uint32_t Leido(std::size_t posicion, std::size_t bytes) const;
-    void CompruebaCabecera();
-    void LeeCampos();
-    [[nodiscard]] bool LeeDescriptores(std::size_t primero, std::size_t longitud, bool largos);
-    void AnotaRegistros();
-    void TraduceTextos();
-    void TraduceCampo(const TCampoDbf& campo, const std::string& traduccion, bool paginaConocida);
-    [[nodiscard]] const TCampoDbf* BuscaCampo(std::string_view nombre) const;
+    void AnotaRegistros(std::size_t cuantos);
 
+    std::shared_ptr<const TEstructuraDbf> estructura_;
     std::string contenido_;
-    std::string fichero_;
-    std::size_t cabecera_ = 0;
+    std::size_t primero_ = 0;  // where in it the first record stands
     std::size_t longitudRegistro_ = 0;
-    std::vector<TCampoDbf> campos_;
-    std::vector<std::uint32_t> registros_;  // the live records' numbers in the file
+    std::vector<std::uint32_t> registros_;  // the live records' numbers
 };
 
 }  // namespace analizador

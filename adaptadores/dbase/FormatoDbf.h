@@ -31,6 +31,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace analizador {
 
@@ -63,5 +64,10 @@ struct TCampoDbf {
     std::size_t Posicion = 0;  // in the record, its deletion mark included
     std::size_t Longitud = 0;
 };
+
+// The field's bytes in a record.
+[[nodiscard]] inline std::string_view BytesDe(std::string_view registro, const TCampoDbf& campo) {
+    return {registro.data() + campo.Posicion, campo.Longitud};
+}
 
 }  // namespace analizador

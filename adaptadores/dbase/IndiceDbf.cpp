@@ -97,6 +97,20 @@ std::uint64_t Ordenable(std::optional<double> numero) {
     return (bits & SIGNO) != 0 ? ~bits : bits | SIGNO;
 }
 
+// As they stand in the file.
+int ComparaBytes(const std::vector<const TCampoDbf*>& campos, std::string_view uno, std::string_view otro) {
+    for (const TCampoDbf* campo : campos)
+        if (const int orden = BytesDe(uno, *campo).compare(BytesDe(otro, *campo)); orden != 0) return orden;
+    return 0;
+}
+
+int ComparaClaves(const TCampoDbf& campo, std::string_view una, std::string_view otra) {
+    if (!EsNumero(campo)) return ComparaTextos(una, otra);
+    const std::uint64_t x = Ordenable(NumeroDeBytes(una, campo.Clase));
+    const std::uint64_t y = Ordenable(NumeroDeBytes(otra, campo.Clase));
+    return x == y ? 0 : x < y ? -1 : 1;
+}
+
 // The rows' keys, compared where they lie.
 class TClavesOrdenables {
   public:
@@ -110,29 +124,11 @@ class TClavesOrdenables {
     }
 
     [[nodiscard]] bool Antes(std::uint32_t a, std::uint32_t b) const {
-        const int enBytes = ComparaBytes(a, b);
-        if (enBytes == 0) return a < b;
-        for (const TCampoDbf* campo : campos_)
-            if (const int orden = ComparaClaves(a, b, *campo); orden != 0) return orden < 0;
-        return enBytes < 0;
+        const int orden = ComparaRegistros(campos_, datos_.Registro(a), datos_.Registro(b));
+        return orden != 0 ? orden < 0 : a < b;
     }
 
   private:
-    // As they stand in the file.
-    [[nodiscard]] int ComparaBytes(std::uint32_t a, std::uint32_t b) const {
-        for (const TCampoDbf* campo : campos_)
-            if (const int orden = datos_.Bytes(a, *campo).compare(datos_.Bytes(b, *campo)); orden != 0)
-                return orden;
-        return 0;
-    }
-
-    [[nodiscard]] int ComparaClaves(std::uint32_t a, std::uint32_t b, const TCampoDbf& campo) const {
-        if (!EsNumero(campo)) return ComparaTextos(datos_.Bytes(a, campo), datos_.Bytes(b, campo));
-        const std::uint64_t x = Ordenable(datos_.Numero(a, campo));
-        const std::uint64_t y = Ordenable(datos_.Numero(b, campo));
-        return x == y ? 0 : x < y ? -1 : 1;
-    }
-
     const TDatosDbf& datos_;
     const std::vector<const TCampoDbf*>& campos_;
 };
@@ -149,10 +145,20 @@ std::vector<std::string> CamposDeIndice(std::string_view tabla, std::string_view
     return {std::string(indice)};
 }
 
-TClaveDbf::TClaveDbf(const TDatosDbf& datos, const std::vector<const TCampoDbf*>& campos, TClave clave)
-    : datos_(datos), campos_(campos) {
+int ComparaRegistros(const std::vector<const TCampoDbf*>& campos, std::string_view uno,
+                     std::string_view otro) {
+    const int enBytes = ComparaBytes(campos, uno, otro);
+    if (enBytes == 0) return 0;
+    for (const TCampoDbf* campo : campos)
+        if (const int orden = ComparaClaves(*campo, BytesDe(uno, *campo), BytesDe(otro, *campo)); orden != 0)
+            return orden;
+    return enBytes;
+}
+
+TClaveDbf::TClaveDbf(std::string_view fichero, const std::vector<const TCampoDbf*>& campos, TClave clave)
+    : campos_(campos) {
     if (clave.size() > campos.size())
-        throw ErrorTabla("La tabla " + datos.Fichero() +
+        throw ErrorTabla("La tabla " + std::string(fichero) +
                          std::string(": la clave tiene más partes que el índice"_ansi));
     for (const TParteClave& parte : clave) partes_.push_back(Prepara(*campos[partes_.size()], parte.Valor));
 }
@@ -169,20 +175,22 @@ TClaveDbf::TParte TClaveDbf::Prepara(const TCampoDbf& campo, const TValorClave& 
     return TTextoPlegado{Pliega(texto)};
 }
 
-int TClaveDbf::Compara(std::uint32_t fila) const {
+int TClaveDbf::Compara(std::string_view registro) const {
     for (std::size_t i = 0; i < partes_.size(); ++i)
-        if (const int orden = ComparaParte(fila, *campos_[i], partes_[i]); orden != 0) return orden;
+        if (const int orden = ComparaParte(BytesDe(registro, *campos_[i]), *campos_[i], partes_[i]);
+            orden != 0)
+            return orden;
     return 0;
 }
 
-int TClaveDbf::ComparaParte(std::uint32_t fila, const TCampoDbf& campo, const TParte& parte) const {
+int TClaveDbf::ComparaParte(std::string_view bytes, const TCampoDbf& campo, const TParte& parte) {
     if (const auto* texto = std::get_if<TTextoPlegado>(&parte)) {
         if (EsNumero(campo)) return -1;  // a text that is no number comes after every number
-        return ComparaTextos(datos_.Bytes(fila, campo), texto->Texto);
+        return ComparaTextos(bytes, texto->Texto);
     }
     const std::optional<double> buscado =
         std::holds_alternative<TVacio>(parte) ? std::nullopt : std::optional(std::get<TNumero>(parte).Valor);
-    return ComparaNumeros(datos_.Numero(fila, campo), buscado);
+    return ComparaNumeros(NumeroDeBytes(bytes, campo.Clase), buscado);
 }
 
 // A table is often written in the order of one of its indexes. If not, sorting by the beginnings of the keys

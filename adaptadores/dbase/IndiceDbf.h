@@ -19,19 +19,25 @@ namespace analizador {
 // built-in list, else the field of that name.
 [[nodiscard]] std::vector<std::string> CamposDeIndice(std::string_view tabla, std::string_view indice);
 
+// The order of two records in an index of those fields: below 0 the first comes before, above 0 after; 0 when
+// only their places in the file tell.
+[[nodiscard]] int ComparaRegistros(const std::vector<const TCampoDbf*>& campos, std::string_view uno,
+                                   std::string_view otro);
+
 // A key made ready for many comparisons. Texts compare folded, blanks on the right never matter, an empty
 // text equals only an empty field; a number field compares as a number. A number against a text field equals
 // those texts that write that whole number: they do not stand together in the index's order.
 class TClaveDbf {
   public:
-    // Throws ErrorTabla when the key has more parts than the index. Keeps references to `datos` and `campos`.
-    TClaveDbf(const TDatosDbf& datos, const std::vector<const TCampoDbf*>& campos, TClave clave);
+    // `fichero`: the table's name for messages. Throws ErrorTabla when the key has more parts than the index.
+    // Keeps a reference to `campos`.
+    TClaveDbf(std::string_view fichero, const std::vector<const TCampoDbf*>& campos, TClave clave);
 
     // True when the rows that equal the key, and those between two such keys, stand together in the index.
     [[nodiscard]] bool Ordenada() const { return ordenada_; }
-    // Below 0, 0, above 0: the row's key comes before this key, equals it, comes after. A text that is no
+    // Below 0, 0, above 0: the record's key comes before this key, equals it, comes after. A text that is no
     // number, against a number, comes before all.
-    [[nodiscard]] int Compara(std::uint32_t fila) const;
+    [[nodiscard]] int Compara(std::string_view registro) const;
 
   private:
     struct TTextoPlegado {
@@ -44,9 +50,9 @@ class TClaveDbf {
     using TParte = std::variant<TTextoPlegado, TNumero, TVacio>;
 
     [[nodiscard]] TParte Prepara(const TCampoDbf& campo, const TValorClave& valor);
-    [[nodiscard]] int ComparaParte(std::uint32_t fila, const TCampoDbf& campo, const TParte& parte) const;
+    [[nodiscard]] static int ComparaParte(std::string_view bytes, const TCampoDbf& campo,
+                                          const TParte& parte);
 
-    const TDatosDbf& datos_;
     const std::vector<const TCampoDbf*>& campos_;
     std::vector<TParte> partes_;
     bool ordenada_ = true;

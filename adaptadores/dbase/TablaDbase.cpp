@@ -116,11 +116,11 @@ void TTablaDbase::CancelaRango() {
 }
 
 std::size_t TTablaDbase::PrimeroNoAntes(const TClaveDbf& clave) const {
-    return Particion(desde_, hasta_, [&](std::size_t p) { return clave.Compara(Fila(p)) < 0; });
+    return Particion(desde_, hasta_, [&](std::size_t p) { return clave.Compara(Registro(p)) < 0; });
 }
 
 std::size_t TTablaDbase::PrimeroDespues(const TClaveDbf& clave) const {
-    return Particion(desde_, hasta_, [&](std::size_t p) { return clave.Compara(Fila(p)) <= 0; });
+    return Particion(desde_, hasta_, [&](std::size_t p) { return clave.Compara(Registro(p)) <= 0; });
 }
 
 bool TTablaDbase::Busca(TClave clave) {
@@ -128,7 +128,7 @@ bool TTablaDbase::Busca(TClave clave) {
         posicion_ = hasta_;
         return false;
     }
-    const TClaveDbf buscada(datos_, indice_->Campos(), clave);
+    const TClaveDbf buscada(datos_.Fichero(), indice_->Campos(), clave);
     const bool seguidas = buscada.Ordenada() && !reunidas_;
     std::size_t fin = hasta_;
     posicion_ = desde_;
@@ -136,15 +136,15 @@ bool TTablaDbase::Busca(TClave clave) {
         posicion_ = PrimeroNoAntes(buscada);
         fin = PrimeroDespues(buscada);
     }
-    while (posicion_ < fin && !(buscada.Compara(Fila(posicion_)) == 0 && Pasa(posicion_))) ++posicion_;
+    while (posicion_ < fin && !(buscada.Compara(Registro(posicion_)) == 0 && Pasa(posicion_))) ++posicion_;
     if (posicion_ >= fin) posicion_ = hasta_;
     return posicion_ < hasta_;
 }
 
 bool TTablaDbase::Rango(TClave desde, TClave hasta) {
     if (indice_ == nullptr) return false;
-    const TClaveDbf primera(datos_, indice_->Campos(), desde);
-    const TClaveDbf ultima(datos_, indice_->Campos(), hasta);
+    const TClaveDbf primera(datos_.Fichero(), indice_->Campos(), desde);
+    const TClaveDbf ultima(datos_.Fichero(), indice_->Campos(), hasta);
     CancelaRango();
     if (!primera.Ordenada() || !ultima.Ordenada()) {
         ReuneRango(primera, ultima);
@@ -160,7 +160,7 @@ bool TTablaDbase::Rango(TClave desde, TClave hasta) {
 void TTablaDbase::ReuneRango(const TClaveDbf& desde, const TClaveDbf& hasta) {
     std::vector<std::uint32_t> filas;
     for (std::size_t p = desde_; p < hasta_; ++p)
-        if (desde.Compara(Fila(p)) >= 0 && hasta.Compara(Fila(p)) <= 0) filas.push_back(Fila(p));
+        if (desde.Compara(Registro(p)) >= 0 && hasta.Compara(Registro(p)) <= 0) filas.push_back(Fila(p));
     reunidas_ = std::move(filas);
     hasta_ = reunidas_->size();
 }

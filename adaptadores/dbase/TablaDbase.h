@@ -63,6 +63,9 @@ class TTablaDbase : public TTabla {
     };
 
     [[nodiscard]] std::uint32_t Fila(std::size_t posicion) const;
+    [[nodiscard]] std::string_view Registro(std::size_t posicion) const {
+        return datos_.Registro(Fila(posicion));
+    }
     [[nodiscard]] bool Pasa(std::size_t posicion) const;
     void SaltaLoFiltrado();
     [[nodiscard]] std::size_t PrimeroNoAntes(const TClaveDbf& clave) const;

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <numeric>
 
 namespace analizador {
 
@@ -54,6 +55,8 @@ std::string DigitosDe(std::optional<double> valor) {
 }  // namespace
 
 std::string_view SinBlancosDerecha(std::string_view texto) {
+    constexpr std::string_view BLANCOS = "        ";
+    while (texto.ends_with(BLANCOS)) texto.remove_suffix(BLANCOS.size());
     return texto.substr(0, texto.find_last_not_of(' ') + 1);
 }
 
@@ -63,7 +66,14 @@ std::string_view SinBlancos(std::string_view texto) {
 }
 
 std::optional<double> NumeroDeDigitos(std::string_view texto) {
-    std::string digitos(SinBlancos(texto.substr(0, texto.find('\0'))));
+    constexpr std::size_t EXACTAS = 15;  // a double holds so many digits
+    const std::string_view escrito = SinBlancos(texto.substr(0, texto.find('\0')));
+    if (escrito.empty()) return std::nullopt;
+    if (escrito.size() <= EXACTAS && std::all_of(escrito.begin(), escrito.end(), EsDigito))
+        return static_cast<double>(
+            std::accumulate(escrito.begin(), escrito.end(), std::int64_t{0},
+                            [](std::int64_t valor, char digito) { return valor * 10 + (digito - '0'); }));
+    std::string digitos(escrito);
     std::replace(digitos.begin(), digitos.end(), ',', '.');
     if (digitos.starts_with('+')) digitos.erase(0, 1);
     if (std::none_of(digitos.begin(), digitos.end(), EsDigito)) return std::nullopt;

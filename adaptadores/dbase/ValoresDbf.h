@@ -28,6 +28,14 @@ namespace analizador {
 // The little-endian number of `cuantos` bytes, 8 at most, at a position; the bytes must be there.
 [[nodiscard]] std::uint64_t LeeBajo(std::string_view bytes, std::size_t posicion, std::size_t cuantos);
 
+// The same of the eight bytes at `bytes`.
+[[nodiscard]] inline std::uint64_t LeeOcho(const char* bytes) {
+    const auto byte = [&](unsigned i) {
+        return static_cast<std::uint64_t>(static_cast<unsigned char>(bytes[i])) << 8U * i;
+    };
+    return byte(0) | byte(1) | byte(2) | byte(3) | byte(4) | byte(5) | byte(6) | byte(7);
+}
+
 // Without the blanks at the right, at both ends. Views into `texto`.
 [[nodiscard]] std::string_view SinBlancosDerecha(std::string_view texto);
 [[nodiscard]] std::string_view SinBlancos(std::string_view texto);

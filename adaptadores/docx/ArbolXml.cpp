@@ -21,7 +21,7 @@ constexpr unsigned LECTURA = pugi::parse_escapes | pugi::parse_eol | pugi::parse
                              pugi::parse_cdata | pugi::parse_wconv_attribute | pugi::parse_doctype;
 
 [[noreturn]] void Rehusa(const std::string& parte, std::string_view causa) {
-    throw FalloDocx("la parte «" + parte + "» " + std::string(causa));
+    throw FalloDocx("la parte " + NombreCitado(parte) + " " + std::string(causa));
 }
 
 // No less than it will take: what only looks like an element or an attribute counts too.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -93,8 +94,7 @@ class TNormalizador {
     pugi::xml_node Avanza(pugi::xml_node nodo, pugi::xml_node raiz) {
         if (const auto hijo = Elemento(nodo.first_child())) return Entra(hijo), hijo;
         while (nodo != raiz) {
-            Declaraciones.resize(Ambitos.back());
-            Ambitos.pop_back();
+            Sale();
             if (const auto hermano = Elemento(nodo.next_sibling())) return Entra(hermano), hermano;
             nodo = nodo.parent();
         }
@@ -104,6 +104,12 @@ class TNormalizador {
     static pugi::xml_node Elemento(pugi::xml_node nodo) {
         while (nodo && nodo.type() != pugi::node_element) nodo = nodo.next_sibling();
         return nodo;
+    }
+
+    void Sale() {
+        if (Declaraciones.size() != Ambitos.back()) Ultima.reset();
+        Declaraciones.resize(Ambitos.back());
+        Ambitos.pop_back();
     }
 
     void Entra(pugi::xml_node nodo) {
@@ -118,26 +124,32 @@ class TNormalizador {
         }
         if (Declaraciones.size() > DECLARACIONES_MAXIMAS)
             throw FalloDocx("declara espacios de nombres en exceso");
+        if (Declaraciones.size() != Ambitos.back()) Ultima.reset();
     }
 
-    [[nodiscard]] const TDeclaracion* Busca(std::string_view prefijo) const {
-        for (auto it = Declaraciones.rbegin(); it != Declaraciones.rend(); ++it)
-            if (it->Prefijo == prefijo) return &*it;
+    // Nearly all names have the prefix of the one before.
+    [[nodiscard]] const TDeclaracion* Busca(std::string_view prefijo) {
+        if (Ultima && Declaraciones[*Ultima].Prefijo == prefijo) return &Declaraciones[*Ultima];
+        for (std::size_t i = Declaraciones.size(); i-- > 0;)
+            if (Declaraciones[i].Prefijo == prefijo) {
+                Ultima = i;
+                return &Declaraciones[i];
+            }
         return nullptr;
     }
 
-    [[nodiscard]] std::string_view UriDe(std::string_view prefijo) const {
+    [[nodiscard]] std::string_view UriDe(std::string_view prefijo) {
         const auto* declaracion = Busca(prefijo);
         return declaracion != nullptr ? declaracion->Uri : std::string_view();
     }
 
-    [[nodiscard]] char ClaseDe(std::string_view prefijo) const {
+    [[nodiscard]] char ClaseDe(std::string_view prefijo) {
         const auto* declaracion = Busca(prefijo);
         return declaracion != nullptr ? declaracion->Clase : AJENO;
     }
 
     // A branch may be chosen when all the extensions that it requires are understood.
-    [[nodiscard]] bool EsEntendido(std::string_view prefijos) const {
+    [[nodiscard]] bool EsEntendido(std::string_view prefijos) {
         while (!prefijos.empty()) {
             const auto prefijo = prefijos.substr(0, prefijos.find_first_of(" \t\r\n"));
             prefijos.remove_prefix(std::min(prefijos.size(), prefijo.size() + 1));
@@ -174,7 +186,8 @@ class TNormalizador {
     }
 
     std::vector<TDeclaracion> Declaraciones;
-    std::vector<std::size_t> Ambitos;  // number of declarations in force before each open element
+    std::vector<std::size_t> Ambitos;   // number of declarations in force before each open element
+    std::optional<std::size_t> Ultima;  // the declaration found last, as long as the same ones are in force
     std::string Nombre;
 };
 

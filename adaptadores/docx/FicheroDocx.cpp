@@ -1,6 +1,5 @@
 #include "adaptadores/docx/FicheroDocx.h"
 
-#include <algorithm>
 #include <new>
 #include <string>
 #include <utility>
@@ -12,17 +11,14 @@
 #include "adaptadores/docx/LecturaFichero.h"
 #include "adaptadores/docx/MarcadoresPedidos.h"
 #include "adaptadores/docx/SustitucionSegura.h"
+#include "plataforma/Rficheros.h"
 
 namespace analizador {
 
 namespace {
 
 std::string NombreParaMensaje(const std::filesystem::path& fichero) {
-    const auto utf8 = fichero.u8string();
-    std::string nombre(utf8.begin(), utf8.end());
-    std::ranges::replace_if(
-        nombre, [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
-    return nombre;
+    return EnUnaLinea(Utf8DeRuta(fichero));
 }
 
 // Does `accion`, and says of which file its failure is.

@@ -1,3 +1,5 @@
+#include "adaptadores/docx/FicheroProvisional_posix.h"
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -5,11 +7,10 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <random>
 #include <string>
 
 #include "adaptadores/docx/FalloDocx.h"
-#include "adaptadores/docx/FicheroProvisional.h"
+#include "adaptadores/docx/NombresProvisionales.h"
 #include "adaptadores/docx/SustitucionSegura.h"
 
 namespace analizador {
@@ -18,26 +19,6 @@ namespace {
 
 constexpr int INTENTOS = 100;
 constexpr std::size_t TROZO_MAXIMO = 1U << 30;
-
-constexpr std::string_view PRINCIPIO = ".~docx-";
-constexpr std::string_view FINAL = ".tmp";
-constexpr std::string_view CIFRAS = "0123456789abcdefghijklmnopqrstuvwxyz";
-constexpr std::size_t LETRAS_AL_AZAR = 12;
-
-std::string NombreAlAzar() {
-    std::random_device azar;
-    std::uniform_int_distribution<std::size_t> cual(0, CIFRAS.size() - 1);
-    std::string nombre(PRINCIPIO);
-    for (std::size_t i = 0; i < LETRAS_AL_AZAR; ++i) nombre += CIFRAS[cual(azar)];
-    return nombre.append(FINAL);
-}
-
-bool EsNombreProvisional(std::string_view nombre) {
-    if (nombre.size() != PRINCIPIO.size() + LETRAS_AL_AZAR + FINAL.size()) return false;
-    const auto azar = nombre.substr(PRINCIPIO.size(), LETRAS_AL_AZAR);
-    return nombre.starts_with(PRINCIPIO) && nombre.ends_with(FINAL) &&
-           azar.find_first_not_of(CIFRAS) == std::string_view::npos;
-}
 
 // True when nobody else holds the lock, also where the file system has no locks: nobody cleans there.
 bool Bloquea(int descriptor) {
@@ -49,24 +30,15 @@ bool TieneNombre(int descriptor) {
     return ::fstat(descriptor, &estado) == 0 && estado.st_nlink > 0;
 }
 
-void QuitaSiNadieLoEscribe(const std::filesystem::path& fichero) {
-    const int descriptor = ::open(fichero.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0) return;
-    struct stat estado {};
-    const bool normal = ::fstat(descriptor, &estado) == 0 && S_ISREG(estado.st_mode);
-    if (normal && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0) ::unlink(fichero.c_str());
-    ::close(descriptor);
-}
-
 }  // namespace
 
 void FallaAlGuardar(int error) {
-    throw FalloDocx("no se puede guardar: " + CausaDeErrno(error));
+    throw FalloDocx("no se puede guardar: " + CausaDelSistema(error));
 }
 
 TFicheroProvisional::TFicheroProvisional(const std::filesystem::path& carpeta, mode_t modo) {
     for (int i = 0; i < INTENTOS; ++i) {
-        Ruta = carpeta / NombreAlAzar();
+        Ruta = carpeta / NombreProvisional();
         if (Crea(modo)) return;
     }
     FallaAlGuardar(EEXIST);
@@ -114,11 +86,13 @@ void TFicheroProvisional::OcupaElSitioDe(const std::filesystem::path& fichero) {
     Colocado = true;
 }
 
-void LimpiaProvisionales(const std::filesystem::path& carpeta) {
-    std::error_code error;
-    std::filesystem::directory_iterator entrada(carpeta, error);
-    for (; !error && entrada != std::filesystem::directory_iterator(); entrada.increment(error))
-        if (EsNombreProvisional(entrada->path().filename().native())) QuitaSiNadieLoEscribe(entrada->path());
+void QuitaSiNadieLoEscribe(const std::filesystem::path& fichero) {
+    const int descriptor = ::open(fichero.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0) return;
+    struct stat estado {};
+    const bool normal = ::fstat(descriptor, &estado) == 0 && S_ISREG(estado.st_mode);
+    if (normal && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0) ::unlink(fichero.c_str());
+    ::close(descriptor);
 }
 
 }  // namespace analizador

@@ -25,7 +25,7 @@ void ExigeValido(const TMarcador& marcador, std::size_t longitud) {
     const auto& [nombre, intervalo] = marcador;
     if (nombre.empty()) throw FalloDocx("un marcador no tiene nombre");
     if (TieneControl(nombre)) throw FalloDocx("el nombre de un marcador tiene caracteres de control");
-    const auto citado = "el marcador «" + Utf8DeAnsi(nombre) + "» ";
+    const auto citado = "el marcador " + NombreCitado(Utf8DeAnsi(nombre)) + " ";
     if (nombre.size() > LONGITUD_MAXIMA) throw FalloDocx(citado + "tiene un nombre demasiado largo");
     if (intervalo.Inicio < 0 || intervalo.Inicio > intervalo.Fin ||
         static_cast<std::size_t>(intervalo.Fin) > longitud)

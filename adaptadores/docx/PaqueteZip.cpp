@@ -71,19 +71,12 @@ zip_t* AbreArchivo(const TFuenteZip& fuente, int opciones) {
     return archivo;
 }
 
-std::string Entrecomilla(std::string_view parte) {
-    std::string limpia(parte);
-    for (char& c : limpia)
-        if (static_cast<unsigned char>(c) < ' ') c = '?';
-    return "«" + limpia + "»";
-}
-
 [[noreturn]] void RehusaDanada(const std::string& parte) {
-    throw FalloDocx("la parte " + Entrecomilla(parte) + " está truncada o dañada");
+    throw FalloDocx("la parte " + NombreCitado(parte) + " está truncada o dañada");
 }
 
 [[noreturn]] void RehusaDesmesurada(const std::string& parte) {
-    throw FalloDocx("la parte " + Entrecomilla(parte) + " se expande de forma desmesurada");
+    throw FalloDocx("la parte " + NombreCitado(parte) + " se expande de forma desmesurada");
 }
 
 bool EsDesmesurado(std::uint64_t inflado, std::uint64_t comprimido, std::uint64_t infladoAntes) {
@@ -99,9 +92,9 @@ zip_stat_t DatosDeParte(zip_t* archivo, zip_uint64_t indice, const std::string& 
     if (zip_stat_index(archivo, indice, 0, &datos) != 0 || (datos.valid & PRECISOS) != PRECISOS)
         RehusaDanada(parte);
     if (datos.encryption_method != ZIP_EM_NONE)
-        throw FalloDocx("la parte " + Entrecomilla(parte) + " está cifrada");
+        throw FalloDocx("la parte " + NombreCitado(parte) + " está cifrada");
     if (datos.comp_method != ZIP_CM_STORE && datos.comp_method != ZIP_CM_DEFLATE)
-        throw FalloDocx("la parte " + Entrecomilla(parte) + " usa una compresión que no se admite");
+        throw FalloDocx("la parte " + NombreCitado(parte) + " usa una compresión que no se admite");
     return datos;
 }
 
@@ -158,7 +151,7 @@ bool TPaqueteZip::TieneCarpeta(std::string_view carpeta) const {
 
 std::string TPaqueteZip::Lee(const std::string& parte) {
     const auto indice = Indice(parte);
-    if (!indice) throw FalloDocx("falta la parte " + Entrecomilla(parte));
+    if (!indice) throw FalloDocx("falta la parte " + NombreCitado(parte));
     const auto datos = DatosDeParte(Archivo.get(), *indice, parte);
     if (EsDesmesurado(datos.size, datos.comp_size, Inflado)) RehusaDesmesurada(parte);
     const std::unique_ptr<zip_file_t, TCierraEntrada> entrada(zip_fopen_index(Archivo.get(), *indice, 0));
@@ -180,7 +173,7 @@ std::string TPaqueteZip::Lee(const std::string& parte) {
 
 std::string TPaqueteZip::ConParte(const std::string& parte, std::string_view contenido) const {
     const auto indice = Indice(parte);
-    if (!indice) throw FalloDocx("falta la parte " + Entrecomilla(parte));
+    if (!indice) throw FalloDocx("falta la parte " + NombreCitado(parte));
     const auto fuente = FuenteConCopia(Bytes);
     std::unique_ptr<zip_t, TDescarta> copia(AbreArchivo(fuente, 0));
     if (!copia) throw FalloDocx("no se puede componer el documento nuevo");

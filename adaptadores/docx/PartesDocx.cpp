@@ -141,7 +141,7 @@ TPartesDocx LocalizaPartes(TPaqueteZip& paquete) {
     partes.Principal =
         relacionada && !EsDeOtroPrograma(*relacionada) ? *relacionada : PrincipalPorTipo(paquete);
     if (!paquete.Tiene(partes.Principal))
-        throw FalloDocx("falta la parte principal «" + partes.Principal + "»");
+        throw FalloDocx("falta la parte principal " + NombreCitado(partes.Principal));
     const TRelaciones relaciones(paquete, partes.Principal);
     const auto relacionadaComo = [&](std::string_view clase) {
         auto parte = relaciones.Parte(clase);

@@ -8,7 +8,7 @@
 namespace analizador {
 
 // Why the system refuses to write a file, in words that a clerk understands. `error`: its number.
-[[nodiscard]] std::string CausaDeErrno(int error);
+[[nodiscard]] std::string CausaDelSistema(int error);
 
 // The file that a path leads to, following symbolic links; it need not exist. Throws FalloDocx for a loop of
 // links.

@@ -7,7 +7,8 @@
 #include <system_error>
 
 #include "adaptadores/docx/FalloDocx.h"
-#include "adaptadores/docx/FicheroProvisional.h"
+#include "adaptadores/docx/FicheroProvisional_posix.h"
+#include "adaptadores/docx/NombresProvisionales.h"
 #include "adaptadores/docx/SustitucionSegura.h"
 
 namespace analizador {
@@ -39,7 +40,7 @@ void ExigeSustituible(const std::filesystem::path& fichero, const struct stat& a
 
 }  // namespace
 
-std::string CausaDeErrno(int error) {
+std::string CausaDelSistema(int error) {
     switch (error) {
         case EACCES:
         case EPERM:

@@ -42,7 +42,7 @@ class TLectorUtf16 {
 };
 
 std::string Utf8DeBytesUtf16(std::string_view bytes, bool altoPrimero, const std::string& parte) {
-    const FalloDocx roto("la parte «" + parte + "» no es un texto UTF-16 correcto");
+    const FalloDocx roto("la parte " + NombreCitado(parte) + " no es un texto UTF-16 correcto");
     if (bytes.size() % 2 != 0) throw roto;
     std::string texto;
     TLectorUtf16 lector(bytes, altoPrimero);
@@ -78,7 +78,7 @@ void ExigeUtf8(std::string_view texto, const std::string& parte) {
     const auto nombre = CodificacionDeclarada(texto);
     if (nombre.empty() || nombre == "utf-8" || nombre == "utf8" || nombre == "us-ascii" || nombre == "utf-16")
         return;
-    throw FalloDocx("la parte «" + parte + "» usa una codificación de texto que no se admite");
+    throw FalloDocx("la parte " + NombreCitado(parte) + " usa una codificación de texto que no se admite");
 }
 
 }  // namespace
@@ -86,7 +86,8 @@ void ExigeUtf8(std::string_view texto, const std::string& parte) {
 TTextoXml DecodificaXml(std::string bytes, const std::string& parte) {
     const std::string_view vista = bytes;
     if (vista.starts_with("\xFF\xFE\0\0"sv) || vista.starts_with("\0\0"sv))
-        throw FalloDocx("la parte «" + parte + "» usa una codificación de texto que no se admite");
+        throw FalloDocx("la parte " + NombreCitado(parte) +
+                        " usa una codificación de texto que no se admite");
     if (vista.starts_with(MARCA_UTF16_LE))
         return {Utf8DeBytesUtf16(vista.substr(2), false, parte), Codificacion::Utf16Le, true};
     if (vista.starts_with(MARCA_UTF16_BE))

@@ -5,10 +5,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <functional>
 
 #include "adaptadores/memoria/Letras.h"
 #include "plataforma/Ansi.h"
+#include "plataforma/Encuentra.h"
 
 namespace analizador {
 
@@ -44,9 +44,13 @@ constexpr std::array<char, 256> COMPARABLES = [] {
 }();
 
 std::string Comparable(std::string_view texto) {
-    std::string salida(texto);
-    for (char& c : salida) c = COMPARABLES[static_cast<unsigned char>(c)];
-    std::erase_if(salida, EsGuionOpcional);
+    std::string salida(texto.size(), '\0');
+    std::size_t letras = 0;
+    for (const char c : texto) {
+        salida[letras] = COMPARABLES[static_cast<unsigned char>(c)];
+        letras += EsGuionOpcional(c) ? 0 : 1;
+    }
+    salida.resize(letras);
     return salida;
 }
 
@@ -69,14 +73,9 @@ struct TBusqueda {
 
     // The first match that begins at `desde` or later, or NO_ESTA.
     [[nodiscard]] std::size_t Primera(std::size_t desde) const {
-        const std::boyer_moore_horspool_searcher buscador(Buscado.begin(), Buscado.end());
-        for (auto resto = Texto.substr(std::min(desde, Texto.size()));;) {
-            const auto lugar = std::search(resto.begin(), resto.end(), buscador);
-            if (lugar == resto.end()) return NO_ESTA;
-            const auto inicio = static_cast<std::size_t>(lugar - Texto.begin());
-            if (Vale(inicio)) return inicio;
-            resto = Texto.substr(inicio + 1);
-        }
+        std::size_t inicio = Encuentra(Texto, Buscado, desde);
+        while (inicio != NO_ESTA && !Vale(inicio)) inicio = Encuentra(Texto, Buscado, inicio + 1);
+        return inicio;
     }
 
     // The last match that ends at `hasta` or earlier, or NO_ESTA.

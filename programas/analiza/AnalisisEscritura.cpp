@@ -1,6 +1,5 @@
 #include "programas/analiza/AnalisisEscritura.h"
 
-#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -8,19 +7,9 @@
 #include "adaptadores/memoria/DocumentoMemoria.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
+#include "plataforma/Utf8.h"
 
 namespace analizador {
-
-namespace {
-
-// A message is one line, whatever the file is called.
-std::string EnUnaLinea(std::string texto) {
-    std::ranges::replace_if(
-        texto, [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
-    return texto;
-}
-
-}  // namespace
 
 void TAnalisisEscritura::Intenta(const std::string& deQue, const std::function<void()>& accion) {
     const auto rechaza = [&](const std::string& causa) {

@@ -4,7 +4,7 @@
 #include <set>
 #include <vector>
 
-#include "adaptadores/docx/FicheroProvisional.h"
+#include "adaptadores/docx/NombresProvisionales.h"
 #include "plataforma/Rficheros.h"
 
 namespace analizador {

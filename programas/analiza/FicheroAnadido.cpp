@@ -159,7 +159,7 @@ void TFicheroAnadido::Intenta(const std::function<void()>& accion) const {
     try {
         accion();
     } catch (const std::system_error& error) {
-        throw Fallo("no se puede escribir: " + CausaDeErrno(error.code().value()));
+        throw Fallo("no se puede escribir: " + CausaDelSistema(error.code().value()));
     }
 }
 

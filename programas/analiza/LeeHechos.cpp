@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "plataforma/Utf8.h"
 #include "programas/analiza/Hechos.h"
 #include "programas/analiza/SalidaJson.h"
 
@@ -36,7 +37,8 @@ void CompruebaValor(const TJson& hechos, const TJson& modelo, const std::string&
 void CompruebaObjeto(const TJson& hechos, const TJson& modelo, const std::string& dentroDe) {
     for (const auto& [clave, valor] : hechos.items()) {
         if (dentroDe.empty() && std::ranges::find(APARTE, clave) != APARTE.end()) continue;
-        if (!modelo.contains(clave)) throw ErrorHechos("no se conoce la clave \"" + dentroDe + clave + "\"");
+        if (!modelo.contains(clave))
+            throw ErrorHechos("no se conoce la clave \"" + dentroDe + PrincipioEnUnaLinea(clave) + "\"");
         CompruebaValor(valor, modelo.at(clave), dentroDe + clave);
     }
 }

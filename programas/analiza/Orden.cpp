@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "adaptadores/ini/ConfigIni.h"
+#include "plataforma/Utf8.h"
 
 namespace analizador {
 
@@ -63,7 +64,7 @@ int EjecutaOrden(CLI::App& orden, int argc, char** argv, const std::string& falt
 
 void Avisa(const std::string& texto) {
     std::fflush(stdout);
-    std::fprintf(stderr, "analiza: %s\n", texto.c_str());
+    std::fprintf(stderr, "analiza: %s\n", EnUnaLinea(texto).c_str());
 }
 
 int MalUso(const std::string& causa) {

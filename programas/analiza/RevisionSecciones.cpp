@@ -53,7 +53,8 @@ class TRevisorSeccion {
 
     void ApuntaEntrada(int numero, const TFicheroIni::Clave& clave) {
         FNumeros.insert(numero);
-        if (clave.Valor.empty()) Aviso(clave.Linea, "la entrada " + clave.Nombre + " está vacía");
+        if (clave.Valor.empty())
+            Aviso(clave.Linea, "la entrada " + std::string(clave.Nombre) + " está vacía");
     }
 
     void RevisaHuecos() {

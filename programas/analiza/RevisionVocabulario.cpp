@@ -5,6 +5,7 @@
 
 #include "plataforma/Ansi.h"
 #include "plataforma/Rnumcad.h"
+#include "plataforma/Utf8.h"
 
 namespace analizador {
 
@@ -41,7 +42,7 @@ std::vector<TReparo> RevisaVocabulario(const TVocabulario& vocabulario,
 
 std::string LineaDeReparo(const TVocabulario& vocabulario, const TReparo& reparo) {
     const std::string linea = reparo.Linea == 0 ? "" : ":" + Int_Cad(reparo.Linea);
-    return vocabulario.Nombre + linea + (reparo.Error ? ": error: " : ": aviso: ") + reparo.Texto;
+    return EnUnaLinea(vocabulario.Nombre + linea + (reparo.Error ? ": error: " : ": aviso: ") + reparo.Texto);
 }
 
 }  // namespace analizador

@@ -15,6 +15,7 @@
 #include "analizador/Pizarra.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
+#include "plataforma/Utf8.h"
 #include "programas/analiza/Entorno.h"
 #include "programas/biblioteca/Ventanas.h"
 
@@ -28,7 +29,7 @@ constexpr int MAL_USO = 2;
 constexpr int REVISION_CANCELADA = 3;
 
 int Avisa(std::string_view causa) {
-    std::cerr << "analiza-word: " << causa << '\n';
+    std::cerr << "analiza-word: " << EnUnaLinea(causa) << '\n';
     return FALLO;
 }
 

@@ -25,9 +25,14 @@ TEnUso& EnUso() {
     return enUso;
 }
 
+// Windows finds no folder by a name that ends in its separator.
+fs::path SinSeparadorFinal(const fs::path& carpeta) {
+    return carpeta.has_filename() ? carpeta : carpeta.parent_path();
+}
+
 bool SonLaMisma(const fs::path& una, const fs::path& otra) {
     std::error_code error;
-    return una == otra || fs::equivalent(una, otra, error);
+    return una == otra || fs::equivalent(SinSeparadorFinal(una), SinSeparadorFinal(otra), error);
 }
 
 void ExigeLaMisma(const std::optional<fs::path>& pedida, const fs::path& enUso) {

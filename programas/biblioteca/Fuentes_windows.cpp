@@ -2,7 +2,6 @@
 
 #include "adaptadores/word/AplicacionWord.h"
 #include "plataforma/Ansi.h"
-#include "plataforma/Rficheros.h"
 #include "programas/biblioteca/ErrorInterfaz.h"
 #include "programas/biblioteca/Fuentes.h"
 #include "programas/biblioteca/Modulo_windows.h"
@@ -13,11 +12,6 @@ namespace analizador {
 
 namespace {
 
-[[noreturn]] void RechazaDocx(const std::filesystem::path& fichero) {
-    throw ErrorInterfaz(ANALIZADOR_NO_ANALIZADA,
-                        Utf8DeRuta(fichero) + ": esta biblioteca no lee ficheros .docx");
-}
-
 std::intptr_t VentanaDe(TAplicacionWord& word) {
     try {
         return word.Ventana();
@@ -27,14 +21,6 @@ std::intptr_t VentanaDe(TAplicacionWord& word) {
 }
 
 }  // namespace
-
-std::unique_ptr<TAnalisisEscritura> AnalizaDocx(const std::filesystem::path& fichero, bool) {
-    RechazaDocx(fichero);
-}
-
-void GuardaDocx(TAnalisisEscritura&, const std::filesystem::path& destino, bool) {
-    RechazaDocx(destino);
-}
 
 std::unique_ptr<TAnalisisEscritura> AnalizaWord(void* aplicacion, bool revisa) {
     auto word = aplicacion == nullptr

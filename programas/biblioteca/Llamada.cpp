@@ -4,13 +4,14 @@
 #include <iterator>
 #include <string_view>
 
+#include "plataforma/Utf8.h"
 #include "programas/biblioteca/Textos.h"
 
 namespace analizador {
 
 namespace {
 
-constexpr analizador_utf16 SIN_MEMORIA[] = {'s', 'i', 'n', ' ', 'm', 'e', 'm', 'o', 'r', 'i', 'a', 0};
+constexpr char SIN_MEMORIA[] = "sin memoria";
 
 // At most `maximo` bytes, and no part of a letter.
 std::string_view Cabeza(std::string_view utf8, std::size_t maximo) {
@@ -30,12 +31,14 @@ void TMotivo::Olvida() noexcept {
 }
 
 void TMotivo::Pon(const char* motivo) noexcept {
-    const std::string_view texto = Cabeza(motivo, MAXIMO - 1);
-    *std::copy(texto.begin(), texto.end(), FTexto.begin()) = 0;
     try {
+        const std::string linea = EnUnaLinea(motivo);
+        const std::string_view texto = Cabeza(linea, MAXIMO - 1);
         const auto unidades = UnidadesDe(texto);
+        *std::copy(texto.begin(), texto.end(), FTexto.begin()) = 0;
         std::copy(unidades.begin(), unidades.end(), FTexto16.begin());
     } catch (...) {
+        std::copy(std::begin(SIN_MEMORIA), std::end(SIN_MEMORIA), FTexto.begin());
         std::copy(std::begin(SIN_MEMORIA), std::end(SIN_MEMORIA), FTexto16.begin());
     }
 }

@@ -23,8 +23,8 @@ namespace analizador {
 class TMotivo {
   public:
     void Olvida() noexcept;
-    // What is longer than a host shows is cut at a letter. Without memory for UTF-16 a fixed text stands for
-    // it.
+    // On one line; what is longer than a host shows is cut at a letter. Without memory a fixed text stands
+    // for it.
     void Pon(const char* motivo) noexcept;
 
     [[nodiscard]] const char* Texto() const { return FTexto.data(); }

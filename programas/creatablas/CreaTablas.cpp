@@ -2,13 +2,17 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdint>
 #include <fstream>
 #include <optional>
+#include <ratio>
 #include <sstream>
 #include <string>
 
+#include "adaptadores/dbase/OrdenDbf.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
+#include "plataforma/Utf8.h"
 #include "programas/creatablas/LectorCsv.h"
 
 namespace analizador {
@@ -54,11 +58,11 @@ TFilaDbf FilaDe(const TRegistroCsv& registro, const TEsquema& esquema) {
         const std::string campo = "campo " + columna.Nombre + ": ";
         const std::optional<std::string> ansi = AnsiExacto(registro.Campos[i]);
         if (!ansi)
-            throw ErrorCsv(
-                registro.Linea,
-                campo + "tiene letras que no están en la página de códigos 1252: " + registro.Campos[i]);
+            throw ErrorCsv(registro.Linea, campo +
+                                               "tiene letras que no están en la página de códigos 1252: " +
+                                               PrincipioEnUnaLinea(registro.Campos[i]));
         const std::string causa = CausaNoCabe(columna, *ansi);
-        if (!causa.empty()) throw ErrorCsv(registro.Linea, campo + Utf8DeAnsi(causa));
+        if (!causa.empty()) throw ErrorCsv(registro.Linea, campo + PrincipioEnUnaLinea(Utf8DeAnsi(causa)));
         fila.push_back(*ansi);
     }
     return fila;
@@ -77,12 +81,12 @@ std::chrono::year_month_day Hoy() {
 }
 
 // The fault, UTF-8; empty when the table was made.
-std::string CreaTabla(const std::filesystem::path& csv, const std::filesystem::path& dbf,
+std::string CreaTabla(const std::filesystem::path& csv, const std::filesystem::path& destino,
                       const TEsquema& esquema) {
     const std::optional<std::string> contenido = Contenido(csv);
     if (!contenido) return Utf8(csv) + ": no se puede leer";
     try {
-        EscribeDbf(dbf, esquema.Columnas, FilasDeCsv(*contenido, esquema), Hoy());
+        EscribeTabla(destino, esquema, FilasDeCsv(*contenido, esquema), Hoy());
     } catch (const ErrorCsv& error) {
         return Utf8(csv) + ":" + std::to_string(error.Linea) + ": " + error.what();
     } catch (const ErrorTabla& error) {
@@ -104,19 +108,35 @@ std::vector<TFilaDbf> FilasDeCsv(std::string_view csv, const TEsquema& esquema) 
     return filas;
 }
 
+void EscribeTabla(const std::filesystem::path& destino, const TEsquema& esquema,
+                  const std::vector<TFilaDbf>& filas, std::chrono::year_month_day fecha) {
+    const std::filesystem::path tabla = destino / (esquema.Tabla + ".DBF");
+    OlvidaOrden(tabla);
+    EscribeDbf(tabla, esquema.Columnas, filas, fecha);
+    if (esquema.Indices.empty()) return;
+    RedondeaFecha(tabla);
+    AnotaOrdenes(tabla, esquema.Indices);
+}
+
+void RedondeaFecha(const std::filesystem::path& fichero) {
+    using TDosSegundos = std::chrono::duration<std::int64_t, std::ratio<2>>;
+    std::error_code error;
+    const auto fecha = std::filesystem::last_write_time(fichero, error);
+    if (!error) std::filesystem::last_write_time(fichero, std::chrono::ceil<TDosSegundos>(fecha), error);
+}
+
 bool CreaTablas(const std::filesystem::path& origen, const std::filesystem::path& destino,
                 std::ostream& errores) {
     std::error_code error;
     std::filesystem::create_directories(destino, error);
     if (!std::filesystem::is_directory(destino, error)) {
-        errores << "creatablas: " << Utf8(destino) << ": no se puede crear la carpeta\n";
+        errores << "creatablas: " << EnUnaLinea(Utf8(destino)) << ": no se puede crear la carpeta\n";
         return false;
     }
     bool bien = true;
     for (const TEsquema& esquema : Esquemas()) {
-        const std::string fallo =
-            CreaTabla(origen / (esquema.Tabla + ".csv"), destino / (esquema.Tabla + ".DBF"), esquema);
-        if (!fallo.empty()) errores << "creatablas: " << fallo << '\n';
+        const std::string fallo = CreaTabla(origen / (esquema.Tabla + ".csv"), destino, esquema);
+        if (!fallo.empty()) errores << "creatablas: " << EnUnaLinea(fallo) << '\n';
         bien = bien && fallo.empty();
     }
     return bien;

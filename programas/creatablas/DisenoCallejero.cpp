@@ -8,6 +8,7 @@
 #include "plataforma/Ansi.h"
 #include "plataforma/FicheroIni.h"
 #include "plataforma/Rut.h"
+#include "plataforma/Utf8.h"
 
 namespace analizador {
 
@@ -78,8 +79,8 @@ class TLectorSeccion {
   private:
     [[noreturn]] void Falla(std::string_view clave, std::string_view causa) const {
         throw ErrorCallejero(fichero_ + ":" + std::to_string(seccion_.Linea) + ": sección [" +
-                             Utf8DeAnsi(seccion_.Nombre) + "]: " + std::string(clave) + " " +
-                             std::string(causa));
+                             PrincipioEnUnaLinea(Utf8DeAnsi(seccion_.Nombre)) + "]: " + std::string(clave) +
+                             " " + std::string(causa));
     }
 
     const TFicheroIni& ini_;

@@ -18,7 +18,7 @@ TColumnaDbf Logico(const char* nombre) {
 
 const std::vector<TEsquema>& Esquemas() {
     static const std::vector<TEsquema> esquemas = {
-        {"PILA", {Texto("NOMBRE", 40)}},
+        {"PILA", {Texto("NOMBRE", 40)}, {"NOMBRE"}},
         {"TIPOS",
          {Numero("NUMEROTIPO", 5), Texto("NOMBRE", 80), Texto("COD_OFICIA", 10), Logico("PRESTAMO"),
           Texto("CLAVE_INTI", 10), Texto("TIPO", 80)}},
@@ -34,10 +34,12 @@ const std::vector<TEsquema>& Esquemas() {
         {"TIPO_VIA", {Texto("CODIGO", 2), Texto("CODPOSTAL", 3), Texto("NOMBRE", 15)}},
         {"MUNICIPI",
          {Texto("NOM_MUNICI", 50), Texto("CODPOSTAL", 5), Texto("NOMBRE", 50), Texto("COD_INE", 5),
-          Texto("COD_PROV", 2)}},
+          Texto("COD_PROV", 2)},
+         {"NOM_MUNICI", "CODPOSTAL"}},
         {"POSTAL",
          {Texto("PROVINCIA", 2), Texto("VIA", 50), Texto("TIPO_VIA", 3), Numero("IMPAR_INI", 5),
-          Numero("IMPAR_FIN", 5), Numero("PAR_INI", 5), Numero("PAR_FIN", 5), Texto("CODPOSTAL", 5)}},
+          Numero("IMPAR_FIN", 5), Numero("PAR_INI", 5), Numero("PAR_FIN", 5), Texto("CODPOSTAL", 5)},
+         {"NOMBREVIA"}},
     };
     return esquemas;
 }

@@ -12,6 +12,8 @@ namespace analizador {
 struct TEsquema {
     std::string Tabla;  // its file's name without extension: TABLA.csv makes TABLA.DBF
     std::vector<TColumnaDbf> Columnas;
+    // Those by which the analysis looks up single rows, of a table that may be big.
+    std::vector<std::string> Indices = {};
 };
 
 [[nodiscard]] const std::vector<TEsquema>& Esquemas();

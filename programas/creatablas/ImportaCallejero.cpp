@@ -9,6 +9,7 @@
 #include "adaptadores/dbase/OrdenDbf.h"
 #include "plataforma/Ansi.h"
 #include "plataforma/Ruttb.h"
+#include "plataforma/Utf8.h"
 #include "programas/creatablas/CreaTablas.h"
 #include "programas/creatablas/Esquema.h"
 #include "programas/creatablas/FilasMunicipios.h"
@@ -67,7 +68,7 @@ void DiLeido(const TCallejero& callejero, std::ostream& salida) {
     if (callejero.TiposDesconocidos.empty()) return;
     salida << "Tipos de vía que no están en " << DISENO << ":";
     for (const auto& [tipo, veces] : callejero.TiposDesconocidos)
-        salida << ' ' << Utf8DeAnsi(tipo) << " (" << veces << ')';
+        salida << ' ' << EnUnaLinea(Utf8DeAnsi(tipo)) << " (" << veces << ')';
     salida << '\n';
 }
 
@@ -81,8 +82,9 @@ void EscribeTablas(const TCallejero& callejero, const std::vector<TFilaDbf>& mun
     EscribeDbf(
         postal, EsquemaDe("POSTAL").Columnas, filas.size(),
         [&](std::size_t fila) { return FilaDbfDe(callejero, filas[fila]); }, hoy);
+    RedondeaFecha(postal);
     AnotaOrden(postal, INDICE_VIAS);
-    EscribeDbf(destino / "MUNICIPI.DBF", EsquemaDe("MUNICIPI").Columnas, municipios, hoy);
+    EscribeTabla(destino, EsquemaDe("MUNICIPI"), municipios, hoy);
     salida << "Escritas: POSTAL.DBF con " << filas.size() << " filas y MUNICIPI.DBF con " << municipios.size()
            << ".\n";
 }
@@ -107,7 +109,7 @@ bool ImportaCallejero(const std::filesystem::path& carpeta, const std::filesyste
         EscribeTablas(callejero, FilasMunicipios(propias, callejero), destino, salida);
         return true;
     } catch (const ErrorCallejero& error) {
-        errores << "creatablas: " << error.what() << '\n';
+        errores << "creatablas: " << EnUnaLinea(error.what()) << '\n';
     } catch (const ErrorTabla& error) {
         errores << "creatablas: " << Utf8DeAnsi(error.what()) << '\n';
     }

@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 
+#include "plataforma/Utf8.h"
 #include "programas/creatablas/ImportaCallejero.h"
 
 namespace {
@@ -58,7 +59,8 @@ int AvisaDelUso(const CLI::App& programa) {
     std::string sobra;
     for (const std::string& argumento : programa.remaining()) sobra += " " + argumento;
     std::cerr << "creatablas: "
-              << (sobra.empty() ? std::string("falta el valor de una opción") : "no se entiende" + sobra)
+              << (sobra.empty() ? std::string("falta el valor de una opción")
+                                : "no se entiende" + analizador::EnUnaLinea(sobra))
               << " (vea creatablas --ayuda)\n";
     return MAL_USO;
 }
@@ -86,6 +88,6 @@ int main(int argc, char** argv) try {
             : analizador::CreaTablas(ruta(opciones.Origen), ruta(opciones.Destino), std::cerr);
     return bien ? 0 : FALLO;
 } catch (const std::exception& error) {
-    std::cerr << "creatablas: " << error.what() << '\n';
+    std::cerr << "creatablas: " << analizador::EnUnaLinea(error.what()) << '\n';
     return FALLO;
 }

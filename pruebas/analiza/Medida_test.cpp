@@ -140,6 +140,7 @@ TEST(Medida, LosHechosMalEscritosSeRechazanEnteros) {
         {R"({"Cabezera": {}})", R"(no se conoce la clave "Cabezera")"},
         {R"({"idioma": "catalan", "Cabecera": {"Fexa": ""}})", R"(no se conoce la clave "Cabecera.Fexa")"},
         {R"({"Otorgantes": [{"Nom": ""}]})", R"(no se conoce la clave "Otorgantes.Nom")"},
+        {R"({"Cabe\nzera": {}})", R"(no se conoce la clave "Cabe?zera")"},
         {R"({"Cuantias": "3"})", R"(la clave "Cuantias" no tiene la forma que debe)"},
         {R"({"Cuantias": [{}]})", R"(la clave "Cuantias" no tiene la forma que debe)"},
         {R"({"Cabecera": {"Fecha": []}})", R"(la clave "Cabecera.Fecha" no tiene la forma que debe)"},

@@ -40,6 +40,11 @@ std::vector<std::string> DeSecciones(std::string_view utf8) {
     return lineas;
 }
 
+TEST(LineaDeReparo, EsUnaSolaLineaDigaLoQueDigaElFichero) {
+    const auto vocabulario = VocabularioDe("V\n.INI", "");
+    EXPECT_EQ(LineaDeReparo(vocabulario, {true, 3, "[N\rIF] \u0085 mal"}), "V?.INI:3: error: [N?IF] ? mal");
+}
+
 TEST(RevisaSecciones, CuentasHuecosYRepetidas) {
     struct TCaso {
         const char* Texto;

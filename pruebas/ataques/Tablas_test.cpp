@@ -12,6 +12,7 @@
 #include <atomic>
 #include <cstdio>
 #include <functional>
+#include <map>
 #include <memory>
 #include <new>
 #include <set>
@@ -42,6 +43,15 @@ std::string Tabla(std::uint64_t version) {
     TFichero fichero{.Campos = {{"CLAVE", 'C', 8}, {"VERSION", 'C', 8}}};
     for (int i = 0; i < FILAS; ++i)
         fichero.Filas.push_back({Cifras(static_cast<std::uint64_t>(i)), Cifras(version)});
+    return fichero.Bytes();
+}
+
+// A table whose rows lie in another order than that of CLAVE, with the version at both ends of each.
+std::string TablaRevuelta(std::uint64_t version) {
+    TFichero fichero{
+        .Campos = {{"VERSION", 'C', 8}, {"CLAVE", 'C', 8}, {"LUGAR", 'C', 8}, {"COPIA", 'C', 8}}};
+    for (std::uint64_t i = 0; i < FILAS; ++i)
+        fichero.Filas.push_back({Cifras(version), Cifras(i * 1237 % FILAS), Cifras(i), Cifras(version)});
     return fichero.Bytes();
 }
 
@@ -211,6 +221,46 @@ TEST_P(Reemplazo, UnTramoDeUnaTablaEnOrdenEsTodoDeUnaVersion) {
                 return {};
             }
         }));
+}
+
+// Of each version's own order, in other numbers than the rows'.
+TEST_P(Reemplazo, LoQueSeHallaPorOtroOrdenEsTodoDeUnaVersion) {
+    const auto fichero = Carpeta / "PILA.DBF";
+    EscribeFichero(fichero, TablaRevuelta(0));
+    TProveedorDbase proveedor(Carpeta.GetRuta());
+    int enFichero = 0;
+    const auto lee = [&](bool soloUna) -> TVersiones {
+        try {
+            const auto tabla = proveedor.Abre("NORVEX", "PILA.DBF", "CLAVE");
+            enFichero += tabla->Contenido() == nullptr ? 1 : 0;
+            ::usleep(50);  // long enough for another version
+            if (soloUna) {
+                tabla->Busca({{"CLAVE", std::string_view("00000777")}});
+                return {tabla->Fin() ? FALTA : tabla->Texto("VERSION"),
+                        tabla->Fin() ? FALTA : tabla->Texto("COPIA")};
+            }
+            tabla->Rango({{"CLAVE", std::string_view("00000100")}},
+                         {{"CLAVE", std::string_view("00000149")}});
+            std::map<std::string, std::string> porLugar;
+            for (; !tabla->Fin(); tabla->Siguiente())
+                porLugar[tabla->Texto("LUGAR")] = tabla->Texto("VERSION");
+            TVersiones versiones;
+            for (const auto& [lugar, version] : porLugar) versiones.push_back(version);
+            versiones.resize(50, FALTA);
+            return versiones;
+        } catch (const ErrorTabla& error) {
+            EXPECT_NE(std::string_view(error.what()).find("PILA.DBF"), std::string_view::npos);
+            return {};
+        }
+    };
+    for (const bool soloUna : {true, false})
+        EsperaSegunModo(LeeMientrasSeEscribe(
+            [&](std::uint64_t version) {
+                Escribe(fichero, TablaRevuelta(version), GetParam());
+                AnotaOrdenes(fichero, {"CLAVE"});
+            },
+            [&] { return lee(soloUna); }));
+    EXPECT_GT(enFichero, 0);
 }
 
 TEST_P(Reemplazo, UnaListaDePalabrasEsTodaDeUnaVersion) {

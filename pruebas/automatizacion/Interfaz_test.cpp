@@ -51,11 +51,35 @@ TEST_F(InterfazWindows, AnalizaUnTexto) {
     EXPECT_EQ(Texto("/Origen/Cabecera/NumeroProtocolo/parrafo"), "1");
 }
 
+#ifndef CON_DOCX
 TEST_F(InterfazWindows, NoLeeFicherosYLoDiceConSuNombre) {
     EXPECT_EQ(analizador_analiza_fichero(Sesion.get(), "C:\\Escrituras\\Peñíscola.docx", 0),
               ANALIZADOR_NO_ANALIZADA);
     EXPECT_EQ(Error(), "C:\\Escrituras\\Peñíscola.docx: esta biblioteca no lee ficheros .docx");
     EXPECT_EQ(analizador_guarda(Sesion.get(), nullptr, 0), ANALIZADOR_SIN_RESULTADOS);
+}
+#else
+TEST_F(InterfazWindows, LeeFicherosYLosQueFaltanLosDiceConSuNombre) {
+    ASSERT_EQ(analizador_analiza_fichero(Sesion.get(), CARPETA_EJEMPLOS "/compraventa.docx", 0),
+              ANALIZADOR_BIEN)
+        << Error();
+    EXPECT_NE(Texto("/Pizarra"), "");
+    EXPECT_EQ(analizador_analiza_fichero(Sesion.get(), "C:\\Escrituras\\Peñíscola.docx", 0),
+              ANALIZADOR_NO_ANALIZADA);
+    EXPECT_EQ(Error(), "C:\\Escrituras\\Peñíscola.docx: el fichero no existe");
+    EXPECT_EQ(analizador_guarda(Sesion.get(), nullptr, 0), ANALIZADOR_SIN_RESULTADOS);
+}
+#endif
+
+TEST_F(InterfazWindows, DosSesionesConLasMismasCarpetas) {
+    for (const std::string separador : {"", "/", "\\"}) {
+        analizador_sesion* otra = nullptr;
+        EXPECT_EQ(analizador_abre(2, (CARPETA_VOCABULARIO + separador).c_str(),
+                                  (CARPETA_TABLAS + separador).c_str(), &otra),
+                  ANALIZADOR_BIEN)
+            << analizador_error(nullptr);
+        analizador_cierra(otra);
+    }
 }
 
 TEST_F(InterfazWindows, LasCarpetasSeDicenEnUtf8) {

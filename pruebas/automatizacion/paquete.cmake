@@ -3,8 +3,12 @@
 file(REMOVE_RECURSE ${DONDE})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${OBRA} --component paquete --prefix ${DONDE} OUTPUT_QUIET
                 COMMAND_ERROR_IS_FATAL ANY)
+set(licencias licencias/nlohmann-json3-dev.txt)
+if(CON_DOCX)
+  list(APPEND licencias licencias/libzip-dev.txt licencias/libpugixml-dev.txt)
+endif()
 if(CON_VENTANAS)
-  set(licencias licencias/Qt/LGPL-3.0-only.txt licencias/Qt/GPL-3.0-only.txt licencias/Qt/copyright)
+  list(APPEND licencias licencias/Qt/LGPL-3.0-only.txt licencias/Qt/GPL-3.0-only.txt licencias/Qt/copyright)
 endif()
 foreach(fichero ${licencias} analizador.dll analizador.h libanalizador.dll.a analiza-word.exe creatablas.exe Analizador.bas analiza.vbs
                 CONFIG/CASTELLANO.INI CONFIG/CATALAN.INI CONFIG/OFICINA.INI TABLAS/MUNICIPI.DBF TABLAS/PROVIN.DBF docs/guia.md

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "adaptadores/docx/FicheroDocx.h"
+#include "plataforma/Rficheros.h"
 #include "pruebas/biblioteca/SesionDePrueba.h"
 
 namespace analizador {
@@ -23,19 +24,21 @@ class GuardadoBiblioteca : public testing::Test {
     void SetUp() override {
         ASSERT_NE(sesion_, nullptr) << analizador_error(nullptr);
         std::filesystem::copy_file(Ejemplo("compraventa.docx"), escritura_);
-        ASSERT_EQ(analizador_analiza_fichero(sesion_.get(), escritura_.string().c_str(), 0), ANALIZADOR_BIEN);
+        ASSERT_EQ(analizador_analiza_fichero(sesion_.get(), Utf8DeRuta(escritura_).c_str(), 0),
+                  ANALIZADOR_BIEN);
         ASSERT_EQ(Bytes(escritura_), Bytes(Ejemplo("compraventa.docx"))) << "analysing must not write";
     }
 
     TCarpetaTemporal carpeta_;
-    std::filesystem::path escritura_ = carpeta_ / "escritura ñ.docx";
+    std::filesystem::path escritura_ = carpeta_ / u8"escritura ñ.docx";
     TSesion sesion_ = Abierta();
 };
 
 TEST_F(GuardadoBiblioteca, EnOtroFicheroYElAnalizadoQuedaComoEstaba) {
-    const auto utf8 = carpeta_ / "uno ñ.docx";
-    const auto utf16 = carpeta_ / "otro ñ.docx";
-    ASSERT_EQ(analizador_guarda(sesion_.get(), utf8.string().c_str(), 0), ANALIZADOR_BIEN) << Error(sesion_);
+    const auto utf8 = carpeta_ / u8"uno ñ.docx";
+    const auto utf16 = carpeta_ / u8"otro ñ.docx";
+    ASSERT_EQ(analizador_guarda(sesion_.get(), Utf8DeRuta(utf8).c_str(), 0), ANALIZADOR_BIEN)
+        << Error(sesion_);
     ASSERT_EQ(analizador_guarda16(sesion_.get(), Unidades(utf16.u16string()).data(), 0), ANALIZADOR_BIEN);
     EXPECT_THAT(Marcadores(utf8),
                 IsSupersetOf({"CABECERA", "COMPARECIENTES", "INTERVINIENTES", "TRANSMISION"}));
@@ -53,17 +56,17 @@ TEST_F(GuardadoBiblioteca, EnElMismoFichero) {
 }
 
 TEST_F(GuardadoBiblioteca, LoQueOtroCambioMientrasTantoSoloSePisaAlForzar) {
-    std::filesystem::copy_file(Ejemplo("testamento.docx"), escritura_,
-                               std::filesystem::copy_options::overwrite_existing);
+    std::filesystem::remove(escritura_);
+    std::filesystem::copy_file(Ejemplo("testamento.docx"), escritura_);
     EXPECT_EQ(analizador_guarda(sesion_.get(), nullptr, 0), ANALIZADOR_NO_GUARDADA);
-    EXPECT_THAT(Error(sesion_), testing::HasSubstr(escritura_.string()));
+    EXPECT_THAT(Error(sesion_), testing::HasSubstr(Utf8DeRuta(escritura_)));
     EXPECT_EQ(Bytes(escritura_), Bytes(Ejemplo("testamento.docx")));
     EXPECT_EQ(analizador_guarda(sesion_.get(), nullptr, ANALIZADOR_FORZAR), ANALIZADOR_BIEN);
     EXPECT_THAT(Marcadores(escritura_), IsSupersetOf({"TRANSMISION", "FINCA_1"}));
 }
 
 TEST_F(GuardadoBiblioteca, DondeNoSePuede) {
-    const auto destino = (carpeta_ / "no está/salida.docx").string();
+    const auto destino = Utf8DeRuta(carpeta_ / u8"no está" / "salida.docx");
     EXPECT_EQ(analizador_guarda(sesion_.get(), destino.c_str(), 0), ANALIZADOR_NO_GUARDADA);
     EXPECT_THAT(Error(sesion_), testing::HasSubstr(destino));
     EXPECT_EQ(analizador_guarda(sesion_.get(), "", 0), ANALIZADOR_MAL_USO);

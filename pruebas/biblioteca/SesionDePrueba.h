@@ -64,7 +64,7 @@ class TCarpetaTemporal {
   public:
     TCarpetaTemporal() {
         const auto* prueba = testing::UnitTest::GetInstance()->current_test_info();
-        FRuta = std::filesystem::path(CARPETA_TEMPORAL) /
+        FRuta = std::filesystem::absolute(CARPETA_TEMPORAL) /
                 (std::string(prueba->test_suite_name()) + " " + prueba->name());
         std::filesystem::remove_all(FRuta);
         std::filesystem::create_directories(FRuta);
@@ -76,7 +76,9 @@ class TCarpetaTemporal {
     TCarpetaTemporal(const TCarpetaTemporal&) = delete;
     TCarpetaTemporal& operator=(const TCarpetaTemporal&) = delete;
 
-    [[nodiscard]] std::filesystem::path operator/(const std::string& nombre) const { return FRuta / nombre; }
+    [[nodiscard]] std::filesystem::path operator/(const std::filesystem::path& nombre) const {
+        return FRuta / nombre;
+    }
 
   private:
     std::filesystem::path FRuta;

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "adaptadores/dbase/OrdenDbf.h"
 #include "adaptadores/dbase/ProveedorDbase.h"
 #include "analizador/ConstAnalizador.h"
 #include "modelo/TROtorgante.h"
@@ -336,6 +337,16 @@ TEST_F(Callejero, SinLeerLaTablaSeHallaLoMismo) {
         EXPECT_TRUE(una->Fin());
         una->CancelaRango();
         EXPECT_EQ(una->CuentaFilas(), 10);
+    }
+}
+
+TEST_F(Callejero, LosOrdenesDeLosMunicipiosSeAnotanDeNuevo) {
+    for (int vez = 0; vez < 2; ++vez) {
+        ASSERT_TRUE(Importa()) << errores_;
+        const auto ruta = Tablas() / "MUNICIPI.DBF";
+        const TOrdenesDbf ordenes = OrdenAnotado(ruta, MarcaDeFichero(ruta));
+        EXPECT_TRUE(ordenes.contains("NOM_MUNICI"));
+        EXPECT_TRUE(ordenes.contains("CODPOSTAL"));
     }
 }
 

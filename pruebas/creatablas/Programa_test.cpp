@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "adaptadores/dbase/OrdenDbf.h"
 #include "plataforma/Rficheros.h"
 
 namespace analizador {
@@ -72,6 +73,24 @@ TEST_F(Programa, HaceTodasLasTablas) {
     }
 }
 
+// An old note is never left beside a new table, and the new one survives a copy that keeps whole seconds.
+TEST_F(Programa, AnotaElOrdenDeLasTablasGrandes) {
+    const auto ordenes = [&](const char* tabla) {
+        const auto ruta = Ruta("TABLAS") / (std::string(tabla) + ".DBF");
+        return OrdenAnotado(ruta, MarcaDeFichero(ruta));
+    };
+    for (int vez = 0; vez < 2; ++vez) {
+        EXPECT_EQ(Ejecuta("").Codigo, 0);
+        EXPECT_TRUE(ordenes("PILA").contains("NOMBRE"));
+        EXPECT_TRUE(ordenes("MUNICIPI").contains("NOM_MUNICI"));
+        EXPECT_TRUE(ordenes("MUNICIPI").contains("CODPOSTAL"));
+        EXPECT_TRUE(ordenes("POSTAL").contains("NOMBREVIA"));
+        EXPECT_TRUE(ordenes("TIPOS").empty());
+        EXPECT_FALSE(std::filesystem::exists(Ruta("TABLAS") / "TIPOS.ORD"));
+        EXPECT_EQ(MarcaDeFichero(Ruta("TABLAS") / "PILA.DBF").Modificado % 2'000'000'000, 0);
+    }
+}
+
 TEST_F(Programa, UnFalloNombraFicheroLineaYCausa) {
     Pon("PILA.csv", "NOMBRE\nANA\nUN NOMBRE QUE NO CABE EN LOS CUARENTA CARACTERES DEL CAMPO\n");
     const TResultado resultado = Ejecuta("");
@@ -82,6 +101,22 @@ TEST_F(Programa, UnFalloNombraFicheroLineaYCausa) {
     EXPECT_EQ(Lineas(resultado.Errores), 1);
     EXPECT_FALSE(std::filesystem::exists(Ruta("TABLAS") / "PILA.DBF"));
     EXPECT_TRUE(std::filesystem::exists(Ruta("TABLAS") / "TIPOS.DBF")) << "the others are made";
+}
+
+TEST_F(Programa, LoQueDiceElFicheroNoParteLaLineaDelFalloNiLaAlarga) {
+    Pon("PILA.csv", "NOMBRE\n\"Ж\nANA\u2028\x1B[2J" + std::string(5000, 'X') + "\"\n");
+    Pon("TIPOS.csv", Contenido(Ruta("datos") / "TIPOS.csv") + "\"1\n2\",\"X\nY\"\n");
+    std::filesystem::rename(Ruta("datos"), Ruta("da\ntos"));
+    const TResultado resultado = Ejecuta("--origen 'da\ntos'");
+    EXPECT_EQ(resultado.Codigo, 1);
+    EXPECT_EQ(Lineas(resultado.Errores), 2) << resultado.Errores;
+    EXPECT_NE(
+        resultado.Errores.find("da?tos/PILA.csv:2: campo NOMBRE: tiene letras que no están en la página "
+                               "de códigos 1252: Ж?ANA??[2JXXX"),
+        std::string::npos)
+        << resultado.Errores;
+    EXPECT_NE(resultado.Errores.find("XXX…\n"), std::string::npos) << resultado.Errores;
+    EXPECT_LT(resultado.Errores.size(), 700U);
 }
 
 TEST_F(Programa, CadaFicheroConFalloSeDiceYLaTablaViejaQueda) {

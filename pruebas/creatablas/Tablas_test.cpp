@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -51,6 +52,32 @@ TEST(TablasDeSerie, SusIndicesSeAbren) {
         {"MUNICIPI.DBF", "CODPOSTAL"}, {"POSTAL.DBF", "NOMBREVIA"}, {"TIPO_VIA.DBF", "CODIGO"},
         {"TIPO_INT.DBF", "CODIGO"}};
     for (const auto& [tabla, indice] : INDICES) EXPECT_NO_THROW(Abre(tabla, indice)) << tabla << indice;
+}
+
+// A table in its file does not say what its rows are, one read whole does.
+TEST(TablasDeSerie, UnaFilaSeHallaSinLeerLasGrandes) {
+    static constexpr std::pair<std::string_view, std::string_view> INDICES[] = {
+        {"PILA", "NOMBRE"}, {"MUNICIPI", "NOM_MUNICI"}, {"MUNICIPI", "CODPOSTAL"}};
+    constexpr int PROBADAS = 40;
+    TProveedorDbase proveedor(CARPETA_TABLAS, [](const std::filesystem::path& fichero) {
+        TMarcaFichero marca = MarcaDeFichero(fichero);
+        marca.Reciente = false;
+        return marca;
+    });
+    for (const auto& [tabla, indice] : INDICES) {
+        const std::vector<std::string> claves = Columna(tabla, indice, indice);
+        const auto entera = Abre(tabla, indice);
+        const auto& esquema = *std::find_if(Esquemas().begin(), Esquemas().end(),
+                                            [&](const TEsquema& e) { return e.Tabla == tabla; });
+        for (std::size_t i = 0; i < claves.size(); i += claves.size() / PROBADAS) {
+            const auto enFichero = proveedor.Abre("NORVEX", tabla, indice);
+            ASSERT_EQ(enFichero->Contenido(), nullptr) << tabla << ' ' << indice << ' ' << i;
+            EXPECT_TRUE(enFichero->Busca({{indice, claves[i]}})) << claves[i];
+            EXPECT_TRUE(entera->Busca({{indice, claves[i]}})) << claves[i];
+            for (const TColumnaDbf& columna : esquema.Columnas)
+                EXPECT_EQ(enFichero->Texto(columna.Nombre), entera->Texto(columna.Nombre)) << claves[i];
+        }
+    }
 }
 
 TEST(TablasDeSerie, LosTiposTienenNumeroYNombrePropios) {

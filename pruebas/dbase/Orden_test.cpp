@@ -44,6 +44,12 @@ std::string Bytes(const std::vector<std::string>& nombres) {
     return fichero.Bytes();
 }
 
+// The index whose order is noted; empty without.
+std::string IndiceAnotado(const fs::path& tabla) {
+    const TOrdenesDbf ordenes = OrdenAnotado(tabla, MarcaDeFichero(tabla));
+    return ordenes.empty() ? std::string() : ordenes.begin()->first;
+}
+
 class Orden : public testing::Test {
   protected:
     [[nodiscard]] fs::path Tabla() const { return carpeta_.Ruta() / "PILA.DBF"; }
@@ -61,7 +67,7 @@ class Orden : public testing::Test {
         carpeta_.Pon("PILA.DBF", bytes);
         fs::last_write_time(Tabla(), momento);
     }
-    [[nodiscard]] std::string Anotado() const { return OrdenAnotado(Tabla(), MarcaDeFichero(Tabla())); }
+    [[nodiscard]] std::string Anotado() const { return IndiceAnotado(Tabla()); }
 
     TCarpetaPrueba carpeta_;
 };
@@ -78,10 +84,12 @@ class TDosCaminos {
   public:
     TDosCaminos(const fs::path& ruta, const std::string& bytes)
         : entera_(std::make_shared<const TTablaEnMemoria>("PILA", bytes, "PILA.DBF")),
-          ordenada_(ruta, "PILA", "NOMBRE", "PILA.DBF", [this] {
-              ++enteras_;
-              return std::make_unique<TTablaDbase>(entera_, "NOMBRE");
-          }) {}
+          ordenada_(std::make_shared<TTablaEnFichero>(ruta, MarcaDeFichero(ruta), "PILA", "PILA.DBF",
+                                                      TOrdenesDbf{{"NOMBRE", TOrdenDbf()}}),
+                    "NOMBRE", [this] {
+                        ++enteras_;
+                        return std::make_unique<TTablaDbase>(entera_, "NOMBRE");
+                    }) {}
 
     void EsperaLoMismo(std::string_view desde, std::string_view hasta) {
         TTablaDbase otra(entera_, "NOMBRE");
@@ -118,7 +126,7 @@ TEST_F(Orden, LaCopiaConSuFechaConservaLaNota) {
         fs::last_write_time(otra.Ruta() / fichero, fs::last_write_time(carpeta_.Ruta() / fichero));
     }
     const auto copia = otra.Ruta() / "PILA.DBF";
-    EXPECT_EQ(OrdenAnotado(copia, MarcaDeFichero(copia)), "NOMBRE");
+    EXPECT_EQ(IndiceAnotado(copia), "NOMBRE");
 }
 
 TEST_F(Orden, UnaNotaDannadaNoVale) {

@@ -4,9 +4,9 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
 
 #include "adaptadores/docx/FicheroDocx.h"
@@ -15,9 +15,10 @@
 namespace analizador::pruebas {
 
 TCarpeta::TCarpeta() {
-    auto plantilla = (std::filesystem::temp_directory_path() / "pruebas-docx-XXXXXX").string();
-    if (::mkdtemp(plantilla.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    Ruta = plantilla;
+    std::random_device azar;
+    do {
+        Ruta = std::filesystem::temp_directory_path() / ("pruebas-docx-" + std::to_string(azar()));
+    } while (!std::filesystem::create_directory(Ruta));
 }
 
 TCarpeta::~TCarpeta() {
@@ -109,7 +110,9 @@ std::string Comprime(const std::vector<TParte>& partes) {
 
 std::vector<TParte> Descomprime(const std::filesystem::path& fichero) {
     std::vector<TParte> partes;
-    zip_t* archivo = zip_open(fichero.c_str(), ZIP_RDONLY, nullptr);
+    const auto bytes = LeeBytes(fichero);
+    zip_source_t* fuente = zip_source_buffer_create(bytes.data(), bytes.size(), 0, nullptr);
+    zip_t* archivo = zip_open_from_source(fuente, ZIP_RDONLY, nullptr);
     if (archivo == nullptr) throw std::runtime_error("cannot open an archive");
     for (zip_int64_t i = 0; i < zip_get_num_entries(archivo, 0); ++i) {
         zip_stat_t datos;

@@ -155,11 +155,26 @@ TEST_F(PaqueteDocx, RehusaLoQueNoEsUnDocumento) {
            "falta la parte principal «word/no.xml»");
 }
 
+TEST_F(PaqueteDocx, NombraLaParteQueFaltaEnUnaLineaYNoMuyLarga) {
+    const std::string largo(200, 'x');
+    for (const auto& [destino, citada] : std::vector<std::pair<std::string, std::string>>{
+             {"word/d&#10;1.xml", "«word/d?1.xml»"},
+             {"word/d%0D%0A1.xml", "«word/d??1.xml»"},
+             {"word/&#x7F;&#x85;&#x9B;&#x2028;&#x2029;&#x202E;1.xml", "«word/??????1.xml»"},
+             {"word/\xC3\x28.xml", "«word/?(.xml»"},
+             {"word/Ñandú€.xml", "«word/Ñandú€.xml»"},
+             {"word/" + largo + ".xml", "«word/" + largo.substr(0, 155) + "…»"}})
+        Rehusa(Comprime({{"_rels/.rels", Relaciones("officeDocument", destino)}}),
+               "falta la parte principal " + citada);
+}
+
 TEST_F(PaqueteDocx, RehusaLoQueNoSePuedeLeer) {
-    EXPECT_NE(RechazoAlLeer(Carpeta / "no está.docx").find("no está.docx: el fichero no existe"),
+    EXPECT_NE(RechazoAlLeer(Carpeta.GetRuta() / u8"no está.docx").find("no está.docx: el fichero no existe"),
               std::string::npos);
     EXPECT_NE(RechazoAlLeer(Carpeta.GetRuta()).find("es una carpeta"), std::string::npos);
+#ifndef _WIN32
     EXPECT_NE(RechazoAlLeer("/dev/null").find("no es un fichero que se pueda leer"), std::string::npos);
+#endif
     const auto dosLineas = RechazoAlLeer(Carpeta / "una\notra.docx");
     EXPECT_EQ(dosLineas.find('\n'), std::string::npos);
     EXPECT_NE(dosLineas.find("una?otra.docx"), std::string::npos);
@@ -255,6 +270,37 @@ TEST_F(PaqueteDocx, RehusaLasPartesCifradas) {
     const auto local = bytes.find("word/document.xml") - 30 + 6;
     bytes[local] = static_cast<char>(bytes[local] | 1);
     Rehusa(bytes, "la parte «word/document.xml» está cifrada");
+}
+
+// The same archive, its document.xml said to be compressed with that method.
+std::string ConMetodo(std::string bytes, char metodo) {
+    bytes[EnDirectorio(bytes, "word/document.xml", 10)] = metodo;
+    bytes[bytes.find("word/document.xml") - 30 + 8] = metodo;
+    return bytes;
+}
+
+// The same archive, its document.xml said to be ciphered with AES: a method and an extra field of its own.
+std::string ConAes(const std::string& sinCifrar) {
+    constexpr auto CAMPO = "\x01\x99\x07\x00\x02\x00\x41\x45\x03\x08\x00"sv;
+    constexpr std::string_view NOMBRE = "word/document.xml";
+    auto bytes = ConMetodo(sinCifrar, 99);
+    const auto marcas = EnDirectorio(bytes, std::string(NOMBRE), 8);
+    bytes[marcas] = static_cast<char>(bytes[marcas] | 1);
+    bytes[marcas + 22] = static_cast<char>(bytes[marcas + 22] + static_cast<char>(CAMPO.size()));
+    bytes.insert(marcas - 8 + 46 + NOMBRE.size(), CAMPO);
+    const auto largoDelDirectorio = bytes.rfind("PK\x05\x06") + 12;
+    bytes[largoDelDirectorio] =
+        static_cast<char>(bytes[largoDelDirectorio] + static_cast<char>(CAMPO.size()));
+    return bytes;
+}
+
+// Whatever libzip was built with.
+TEST_F(PaqueteDocx, RehusaLasCompresionesYCifradosDeOtros) {
+    const auto bytes = Comprime(PartesDocumento(DocumentoXml(UN_PARRAFO)));
+    constexpr char BZIP2 = 12, LZMA = 14, ZSTD = 93, XZ = 95;
+    for (const char metodo : {BZIP2, LZMA, ZSTD, XZ})
+        Rehusa(ConMetodo(bytes, metodo), "la parte «word/document.xml» usa una compresión que no se admite");
+    Rehusa(ConAes(bytes), "la parte «word/document.xml» está cifrada");
 }
 
 // Reads what is left of a document: its content or a refusal, and nothing else.

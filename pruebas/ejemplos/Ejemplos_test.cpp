@@ -8,6 +8,7 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <vector>
 
 #include "programas/analiza/AnalisisEscritura.h"
 #include "programas/analiza/Entorno.h"
@@ -17,7 +18,8 @@
 #ifdef _WIN32
 #include "adaptadores/word/AplicacionWord.h"
 #include "pruebas/word/WordDePrueba.h"
-#else
+#endif
+#ifdef CON_DOCX
 #include "programas/analiza/AnalisisFichero.h"
 #endif
 
@@ -50,14 +52,25 @@ TAnalizada EnWord(const std::string& nombre) {
     EXPECT_EQ(servidor.Objetos(), 0);
     return analizada;
 }
-const TForma LA_DEL_SISTEMA = {"word", EnWord};
-#else
+#endif
+
+#ifdef CON_DOCX
 TAnalizada EnDocx(const std::string& nombre) {
     return std::make_unique<TAnalisisFichero>(fs::path(CARPETA_EJEMPLOS) / (nombre + ".docx"),
                                               TOpcionesAnalisis{});
 }
-const TForma LA_DEL_SISTEMA = {"docx", EnDocx};
 #endif
+
+std::vector<TForma> Formas() {
+    std::vector<TForma> formas = {{"memoria", EnMemoria}};
+#ifdef _WIN32
+    formas.push_back({"word", EnWord});
+#endif
+#ifdef CON_DOCX
+    formas.push_back({"docx", EnDocx});
+#endif
+    return formas;
+}
 
 class Ejemplos : public testing::TestWithParam<std::tuple<TForma, std::string>> {
   protected:
@@ -74,7 +87,7 @@ TEST_P(Ejemplos, DanElResultadoRevisado) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Todos, Ejemplos,
-                         testing::Combine(testing::Values(TForma{"memoria", EnMemoria}, LA_DEL_SISTEMA),
+                         testing::Combine(testing::ValuesIn(Formas()),
                                           testing::Values("compravenda", "compraventa",
                                                           "compraventa_extranjero", "prestamo_hipotecario",
                                                           "testament", "testamento")),

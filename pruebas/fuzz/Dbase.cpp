@@ -102,8 +102,11 @@ void CompruebaEnOrden(const TTablaLeida& tabla, std::string_view nombre, std::st
     std::ofstream(ruta, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     const TDatosDbf& datos = tabla->Datos();
     const auto abreEntera = [&] { return std::make_unique<TTablaDbase>(tabla, indice); };
-    TTablaOrdenadaDbf ordenada(ruta, std::string(nombre), std::string(indice), std::string(FICHERO),
-                               abreEntera);
+    const auto enFichero = std::make_shared<TTablaEnFichero>(ruta, MarcaDeFichero(ruta), std::string(nombre),
+                                                             std::string(FICHERO),
+                                                             TOrdenesDbf{{std::string(indice), TOrdenDbf()}});
+    if (!enFichero->ConoceOrden(indice)) return;
+    TTablaOrdenadaDbf ordenada(enFichero, indice, abreEntera);
     TTablaDbase entera(tabla, indice);
     const std::string texto = datos.Texto(datos.Filas() / 2, campo);
     static_cast<void>(ordenada.Rango({{campo.Nombre, texto}}, {{campo.Nombre, texto}}));

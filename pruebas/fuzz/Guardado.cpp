@@ -28,7 +28,8 @@ const std::filesystem::path& Carpeta() {
 std::optional<TFicheroDocx> Abre(const std::filesystem::path& fichero) {
     try {
         return TFicheroDocx(fichero);
-    } catch (const ErrorDocumento&) {
+    } catch (const ErrorDocumento& error) {
+        Exige(EsUnaLinea(error.what()), "the refusal is not one line: " + std::string(error.what()));
         return std::nullopt;
     }
 }
@@ -85,6 +86,7 @@ bool Guarda(TFicheroDocx& documento, const std::vector<TMarcador>& pedidos,
         documento.Guarda(pedidos, destino);
         return true;
     } catch (const ErrorDocumento& error) {
+        Exige(EsUnaLinea(error.what()), "the refusal is not one line: " + std::string(error.what()));
         const bool distinto = std::string_view(error.what()).find("no se leer") != std::string_view::npos;
         Exige(!distinto || !esTexto, "what was to be saved does not read as before");
         return false;

@@ -38,14 +38,25 @@ std::optional<std::string> BuscaALaVista(std::string_view texto, std::string_vie
     return std::nullopt;
 }
 
-void CompruebaPalabras(const TFicheroIni& ini, std::string_view seccion) {
+// Words that are not empty have their key, and keys of words their word: of the thousands that may be missing
+// between them none is looked for.
+void CompruebaPalabras(const TFicheroIni& ini, const TFicheroIni::Seccion& donde) {
+    const std::string& seccion = donde.Nombre;
     const auto& palabras = ini.Palabras(seccion);
     const int cuenta = ini.LeeEntero(seccion, "NumPalabras", 0);
     Exige(palabras.empty() || static_cast<int>(palabras.size()) <= cuenta, "more words than NumPalabras");
     for (std::size_t i = 0; i < palabras.size(); ++i)
-        Exige(palabras[i] == ini.LeeTexto(seccion, std::to_string(i + 1), ""), "a word is not its key's");
+        Exige(palabras[i].empty() || palabras[i] == ini.LeeTexto(seccion, std::to_string(i + 1), ""),
+              "a word is not its key's");
+    for (const auto& clave : donde.Claves) {
+        const int numero = EnteroDeCadena(clave.Nombre).value_or(0);
+        if (numero < 1 || numero > static_cast<int>(palabras.size()) || Int_Cad(numero) != clave.Nombre)
+            continue;
+        Exige(palabras[static_cast<std::size_t>(numero) - 1] == ini.LeeTexto(seccion, clave.Nombre, ""),
+              "a key is not its word's");
+    }
     const int siguiente = static_cast<int>(palabras.size()) + 1;
-    if (siguiente <= cuenta && palabras.size() < 64)
+    if (siguiente <= cuenta)
         Exige(ini.LeeTexto(seccion, std::to_string(siguiente), "").empty(), "a word was left out");
 }
 
@@ -57,7 +68,7 @@ void FuzzIni(std::string_view bytes) {
         bytes.starts_with(MARCA_UTF8) ? AnsiDeUtf8(bytes.substr(3)) : std::string(bytes);
     const TFicheroIni ini(bytes);
     for (const auto& seccion : ini.Secciones()) {
-        CompruebaPalabras(ini, seccion.Nombre);
+        CompruebaPalabras(ini, seccion);
         for (const auto& clave : seccion.Claves) {
             const auto valor = BuscaALaVista(texto, seccion.Nombre, clave.Nombre);
             Exige(ini.LeeTexto(seccion.Nombre, clave.Nombre, "\x01") == valor.value_or("\x01"),

@@ -4,6 +4,8 @@
 
 #include <chrono>
 #include <fstream>
+#include <memory>
+#include <utility>
 
 #include "plataforma/Ansi.h"
 #include "plataforma/Rficheros.h"
@@ -68,12 +70,53 @@ TEST(FicheroIni, LeeTextosYEnterosConSuDefecto) {
     EXPECT_EQ(ini.LeeEntero("TABLAS", "Otra", 7), 7);
 }
 
+TEST(FicheroIni, SusTextosVivenConCualquieraDeSusCopias) {
+    auto primero = std::make_unique<TFicheroIni>("[NIF]\nNumPalabras=1\n1=A\n");
+    const TFicheroIni copia(*primero);
+    const TFicheroIni movido(std::move(*primero));
+    primero.reset();
+    for (const TFicheroIni* ini : {&copia, &movido}) {
+        EXPECT_EQ(ini->Secciones()[0].Claves[1].Nombre, "1");
+        EXPECT_EQ(ini->Secciones()[0].Claves[1].Valor, "A");
+        EXPECT_EQ(ini->LeeTexto("NIF", "1", ""), "A");
+    }
+}
+
 TEST(FicheroIni, DiceEnQueLineaEstaCadaCosa) {
     const TFicheroIni ini("; uno\n\n[NIF]\nNumPalabras=1\n\n1=A\n");
     ASSERT_EQ(ini.Secciones().size(), 1U);
     EXPECT_EQ(ini.Secciones()[0].Linea, 3);
     ASSERT_EQ(ini.Secciones()[0].Claves.size(), 2U);
     EXPECT_EQ(ini.Secciones()[0].Claves[1].Linea, 6);
+}
+
+std::size_t TodasLasPalabras(const TFicheroIni& ini) {
+    std::size_t todas = 0;
+    for (const auto& seccion : ini.Secciones()) todas += ini.Palabras(seccion.Nombre).size();
+    return todas;
+}
+
+// A file of keys as far away as it can be said, in one section and in many.
+TEST(FicheroIni, LasClavesSueltasNoCuestanMasMemoriaQueElFichero) {
+    std::string juntas = "[NIF]\nNumPalabras=999999999\n";
+    std::string repartidas;
+    for (int i = 1; i <= 20'000; ++i) {
+        juntas += std::to_string(i * 40'000) + "=\n" + std::to_string(i * 60) + "=\n";
+        repartidas +=
+            "[S" + std::to_string(i) + "]\nNumPalabras=9999\n1=A\n" + std::to_string(i % 9990) + "=Z\n";
+    }
+    for (const auto& bytes : {juntas, repartidas})
+        EXPECT_LE(TodasLasPalabras(TFicheroIni(bytes)), bytes.size() / 4 + 10'000);
+}
+
+TEST(FicheroIni, LasClavesSueltasRazonablesSeLeen) {
+    std::string bytes =
+        "[NIF]\nNumPalabras=8000\n8000=Z\n3=C\n3=D\n1=A\n[CIF]\nNumPalabras=4000\n4000=Z\n2=B\n";
+    const TFicheroIni ini(bytes);
+    const auto& palabras = ini.Palabras("NIF");
+    ASSERT_EQ(palabras.size(), 8000U);
+    EXPECT_EQ(palabras[0] + palabras[1] + palabras[2] + palabras[7999], "ACZ");
+    EXPECT_EQ(ini.Palabras("CIF"), (std::vector<std::string>{"", "B"})) << "too many would be missing";
 }
 
 TEST(FicheroIni, LosBytesCualesquieraNoLaDerriban) {

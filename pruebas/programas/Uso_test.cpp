@@ -53,6 +53,7 @@ TEST(UsoAnaliza, UnaLlamadaEquivocadaSeExplicaEnUnaLinea) {
         {{"a.docx", "--hilos"}, "a --hilos le falta su valor"},
         {{"a.docx", "--resultados"}, "a --resultados le falta su valor"},
         {{"--json=quizá", "a.docx"}, "una opción tiene un valor que no se entiende"},
+        {{"--des\nconocida\u2028", "a.docx"}, "no se conoce la opción --des?conocida?"},
     };
     for (const auto& caso : casos) {
         SCOPED_TRACE(testing::PrintToString(caso.Argumentos));

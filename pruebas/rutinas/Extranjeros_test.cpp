@@ -172,6 +172,18 @@ TEST_F(Extranjeros, PaisYNacionalidades) {
     for (const TCaso& caso : CASOS) Comprueba(caso);
 }
 
+TEST_F(Extranjeros, LaMismaTablaEnCadaIdioma) {
+    const std::string_view parrafo = "ALEMANA Y ALEMANY";
+    for (int vez = 0; vez < 2; ++vez) {
+        vocabulario_.Elige(TIdioma::Castellano);
+        EXPECT_EQ(Resumen(CompruebaExtranjeros(parrafo).Paises),
+                  std::vector<std::string>{"ALEMANIA 126 ALEMANA 1"});
+        vocabulario_.Elige(TIdioma::Catalan);
+        EXPECT_EQ(Resumen(CompruebaExtranjeros(parrafo).Paises),
+                  std::vector<std::string>{"ALEMANIA 126 ALEMANY 11"});
+    }
+}
+
 TEST_F(Extranjeros, EnCatalan) {
     vocabulario_.Elige(TIdioma::Catalan);
     for (const TCaso& caso : CASOS_CATALANES) Comprueba(caso);

@@ -35,10 +35,6 @@ class TFicheroProvisional {
     bool Colocado = false;
 };
 
-// Removes what killed processes left of such files in a folder. Those of processes that live are locked and
-// stay, as does what cannot be removed.
-void LimpiaProvisionales(const std::filesystem::path& carpeta);
-
 // The failure to save for an error that the system gives.
 [[noreturn]] void FallaAlGuardar(int error);
 

@@ -1,0 +1,36 @@
+# libzip::libzip, and ANALIZADOR_DOCX: whether what reads document files is built. For Windows it is where
+# herramientas/libzip has made both libraries. Elsewhere always: the optimised build has libzip linked in where that script
+# has made it (LIBZIP_DENTRO), the others Debian's shared one, found by pkg-config because libzip's own CMake package asks
+# for its command line tools too.
+set(LIBZIP_DENTRO OFF)
+if(WIN32)
+  set(del_sistema windows)
+endif()
+if(WIN32 OR CMAKE_BUILD_TYPE STREQUAL "Release")
+  execute_process(COMMAND ${PROJECT_SOURCE_DIR}/herramientas/libzip carpeta ${del_sistema}
+                  OUTPUT_VARIABLE carpeta_libzip OUTPUT_STRIP_TRAILING_WHITESPACE)
+  find_library(ANALIZADOR_ZLIB libz.a)
+  if(ANALIZADOR_ZLIB AND EXISTS ${carpeta_libzip}/HECHO)
+    set(LIBZIP_DENTRO ON)
+  endif()
+endif()
+
+set(ANALIZADOR_DOCX ON)
+if(LIBZIP_DENTRO)
+  message(STATUS "libzip, linked in: ${carpeta_libzip}")
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${carpeta_libzip}/HECHO)
+  add_library(libzip::libzip STATIC IMPORTED)
+  set_target_properties(libzip::libzip PROPERTIES IMPORTED_LOCATION ${carpeta_libzip}/lib/libzip.a)
+  target_include_directories(libzip::libzip INTERFACE ${carpeta_libzip}/include)
+  target_link_libraries(libzip::libzip INTERFACE ${ANALIZADOR_ZLIB})
+  if(WIN32)
+    list(APPEND CMAKE_FIND_ROOT_PATH ${carpeta_libzip})
+    list(APPEND CMAKE_PREFIX_PATH ${carpeta_libzip})
+  endif()
+elseif(WIN32)
+  set(ANALIZADOR_DOCX OFF)
+else()
+  find_package(PkgConfig REQUIRED)
+  pkg_check_modules(LIBZIP REQUIRED IMPORTED_TARGET GLOBAL libzip)
+  add_library(libzip::libzip ALIAS PkgConfig::LIBZIP)
+endif()

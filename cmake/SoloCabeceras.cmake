@@ -1,0 +1,16 @@
+# The libraries that are headers alone: nlohmann::json and CLI11. A foreign compiler gets the folder of each one, never all of
+# /usr/include.
+if(NOT CMAKE_CROSSCOMPILING)
+  find_package(nlohmann_json REQUIRED)
+  find_package(CLI11 REQUIRED)
+  return()
+endif()
+function(solo_cabeceras biblioteca carpeta)
+  set(de_ella ${CMAKE_BINARY_DIR}/cabeceras/${carpeta})
+  file(MAKE_DIRECTORY ${de_ella})
+  file(CREATE_LINK /usr/include/${carpeta} ${de_ella}/${carpeta} SYMBOLIC)
+  add_library(${biblioteca} INTERFACE IMPORTED GLOBAL)
+  target_include_directories(${biblioteca} INTERFACE ${de_ella})
+endfunction()
+solo_cabeceras(nlohmann_json::nlohmann_json nlohmann)
+solo_cabeceras(CLI11::CLI11 CLI)
