@@ -3,12 +3,12 @@
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDropEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMetaObject>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include "adaptadores/qt/TeclasQt.h"
 #include "adaptadores/qt/TextoQt.h"
@@ -25,13 +25,16 @@ std::unique_ptr<TEnlaceFilas> Enlaza(QAbstractItemView& vista, Filas& filas, Mod
     return std::make_unique<TEnlace<Filas, Modelo>>(vista, filas, modelo);
 }
 
-// Sized by the letter, and never larger than the screen.
+// Sized by the letter, and never larger than the screen with what the system draws around it.
 QSize TamanoInicial(const QWidget& ventana) {
     constexpr int LETRAS_ANCHO = 150;
     constexpr int LINEAS_ALTO = 44;
     const QFontMetrics letra = ventana.fontMetrics();
     const QSize bueno(letra.averageCharWidth() * LETRAS_ANCHO, letra.lineSpacing() * LINEAS_ALTO);
-    return bueno.boundedTo(QGuiApplication::primaryScreen()->availableSize());
+    const QStyle& estilo = *ventana.style();
+    const int borde = estilo.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    const QSize marco(2 * borde, estilo.pixelMetric(QStyle::PM_TitleBarHeight) + borde);
+    return bueno.boundedTo(ventana.screen()->availableSize() - marco);
 }
 
 }  // namespace

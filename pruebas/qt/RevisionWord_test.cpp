@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <QLineEdit>
+#include <QScreen>
 #include <QTest>
 #include <cstdint>
 
@@ -52,6 +53,7 @@ TEST_F(RevisionWord, LoAceptadoSeEligeEnVentanasDeLaDeWord) {
     const TAtiende enLaLista([&](QDialog& lista) {
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&lista));
         propietaria = Propietaria(lista);
+        EXPECT_TRUE(lista.screen()->availableGeometry().contains(lista.frameGeometry()));
         Lista(lista, "LBPosiblesConceptos").selectAll();
         Pulsa(lista, "BMas");
         auto& validos = Lista(lista, "LBOtorgantes");
