@@ -12,10 +12,11 @@ namespace {
 constexpr std::array<unsigned char, 256> FRECUENCIAS = [] {
     constexpr std::string_view DE_MENOS_A_MAS = "WKXJZ/()\"';:FHQYVGB0123456789PMUTC.,LDINRSOAE- ";
     std::array<unsigned char, 256> frecuencias{};
-    for (unsigned char i = 0; i < DE_MENOS_A_MAS.size(); ++i) {
-        const auto letra = static_cast<unsigned char>(DE_MENOS_A_MAS[i]);
-        frecuencias[letra] = i + 1;
-        if (letra >= 'A' && letra <= 'Z') frecuencias[letra - 'A' + 'a'] = i + 1;
+    unsigned char frecuencia = 0;
+    for (const char letra : DE_MENOS_A_MAS) {
+        frecuencias[static_cast<unsigned char>(letra)] = ++frecuencia;
+        if (letra >= 'A' && letra <= 'Z')
+            frecuencias[static_cast<unsigned char>(letra - 'A' + 'a')] = frecuencia;
     }
     return frecuencias;
 }();
