@@ -33,8 +33,7 @@ std::string NombreDeTabla(const std::filesystem::path& ruta) {
 }  // namespace
 
 std::string AnsiDeRuta(const std::filesystem::path& ruta) {
-    const std::u8string utf8 = ruta.u8string();
-    return AnsiDeUtf8(std::string(utf8.begin(), utf8.end()));
+    return AnsiDeUtf8(Utf8DeRuta(ruta));
 }
 
 std::string EnMayusculas(std::string_view texto) {

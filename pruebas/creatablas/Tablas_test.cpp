@@ -67,8 +67,7 @@ TEST(TablasDeSerie, UnaFilaSeHallaSinLeerLasGrandes) {
     for (const auto& [tabla, indice] : INDICES) {
         const std::vector<std::string> claves = Columna(tabla, indice, indice);
         const auto entera = Abre(tabla, indice);
-        const auto& esquema = *std::find_if(Esquemas().begin(), Esquemas().end(),
-                                            [&](const TEsquema& e) { return e.Tabla == tabla; });
+        const auto& esquema = *std::ranges::find(Esquemas(), tabla, &TEsquema::Tabla);
         for (std::size_t i = 0; i < claves.size(); i += claves.size() / PROBADAS) {
             const auto enFichero = proveedor.Abre("NORVEX", tabla, indice);
             ASSERT_EQ(enFichero->Contenido(), nullptr) << tabla << ' ' << indice << ' ' << i;
