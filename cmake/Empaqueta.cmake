@@ -3,7 +3,8 @@ install(TARGETS analizador_compartida analiza-word creatablas
         RUNTIME DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL
         ARCHIVE DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
 install(FILES programas/biblioteca/analizador.h ejemplos/anfitriones/Analizador.bas ejemplos/anfitriones/analiza.vbs
-              ejemplos/anfitriones/anfitrion_word.cpp
+              ejemplos/anfitriones/anfitrion_word.cpp ejemplos/anfitriones/analizador.pas ejemplos/anfitriones/Analizador.cs
+              ejemplos/anfitriones/analizador.py
         DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)
 install(DIRECTORY ${CMAKE_BINARY_DIR}/bin/CONFIG ${CMAKE_BINARY_DIR}/bin/TABLAS
         DESTINATION . COMPONENT paquete EXCLUDE_FROM_ALL)

@@ -11,8 +11,8 @@ if(CON_VENTANAS)
   list(APPEND licencias licencias/Qt/LGPL-3.0-only.txt licencias/Qt/GPL-3.0-only.txt licencias/Qt/copyright)
 endif()
 foreach(fichero ${licencias} analizador.dll analizador.h libanalizador.dll.a analiza-word.exe creatablas.exe Analizador.bas analiza.vbs
-                CONFIG/CASTELLANO.INI CONFIG/CATALAN.INI CONFIG/OFICINA.INI TABLAS/MUNICIPI.DBF TABLAS/PROVIN.DBF docs/guia.md
-                docs/windows.md)
+                analizador.pas Analizador.cs analizador.py CONFIG/CASTELLANO.INI CONFIG/CATALAN.INI CONFIG/OFICINA.INI
+                TABLAS/MUNICIPI.DBF TABLAS/PROVIN.DBF docs/guia.md docs/windows.md)
   if(NOT EXISTS ${DONDE}/${fichero})
     message(SEND_ERROR "${fichero} is not in the package")
   endif()
