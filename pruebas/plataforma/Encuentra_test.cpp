@@ -5,7 +5,7 @@
 #include <random>
 #include <string>
 
-#include "plataforma/Ansi.h"
+#include "pruebas/comun/Literales.h"
 
 namespace analizador {
 
@@ -28,7 +28,7 @@ TEST(Encuentra, LoMismoQueLaBibliotecaComun) {
                                              "D.N.I. 12-A",
                                              "WWWWKWWWW",
                                              std::string("con \0 dentro", 12),
-                                             std::string("Otorgan: ÁÉÍ áéí ç"_ansi)};
+                                             "Otorgan: ÁÉÍ áéí ç"_a};
     const std::vector<std::string> buscados = {"",
                                                "A",
                                                "AA",
