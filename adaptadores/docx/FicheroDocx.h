@@ -52,7 +52,8 @@ class TFicheroDocx {
     // `destino` may be the file itself, another one that is replaced, or a new one; a symbolic link is
     // followed. The new file is read back and compared before it takes the place of the old one, in one
     // step: after a failure the old file is whole and no other is left behind. Mode and, where the system
-    // allows, owner stay. After saving onto the file that was read, Contenido() has the new bookmarks.
+    // allows, owner stay; in Windows permissions and attributes. After saving onto the file that was read,
+    // Contenido() has the new bookmarks.
     //
     // Throws ErrorDocumento when the document is open in another program, when `destino` is the file that
     // was read and its content changed meanwhile, when the document is signed (these three unless

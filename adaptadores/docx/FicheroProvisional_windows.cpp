@@ -64,6 +64,16 @@ void CopiaProcedencia(std::filesystem::path de, std::filesystem::path a) {
 
 }  // namespace
 
+DWORD Insiste(const std::function<bool()>& accion) {
+    for (int i = 0;; ++i) {
+        if (accion()) return ERROR_SUCCESS;
+        const DWORD error = GetLastError();
+        const bool quizaAbierto = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
+        if (!quizaAbierto || i == ESPERAS) return error;
+        Sleep(ESPERA);
+    }
+}
+
 void FallaAlGuardar(DWORD error) {
     throw FalloDocx("no se puede guardar: " + CausaDelSistema(static_cast<int>(error)));
 }
@@ -114,21 +124,16 @@ void TFicheroProvisional::LlevaAlDisco() {
     Abierto.reset();
 }
 
-// A virus scanner or an indexer may have either file open for a moment. The system also says that there is no
-// permission when the reason is that somebody has the file open. (ReplaceFileW would keep the old
-// one's rights by itself, but in two steps, between which the document is not there.)
+// (ReplaceFileW would keep the old one's rights by itself, but in two steps, between which the document is
+// not there.)
 void TFicheroProvisional::OcupaElSitioDe(const std::filesystem::path& fichero, DWORD atributos) {
     if (!SetFileAttributesW(Ruta.c_str(), atributos)) FallaAlGuardar(GetLastError());
-    for (int i = 0; !Colocado; ++i) {
-        Colocado = MoveFileExW(Ruta.c_str(), fichero.c_str(),
-                               MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
-        if (Colocado) return;
-        const DWORD error = GetLastError();
-        if (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED) FallaAlGuardar(error);
-        if (i == ESPERAS)
-            FallaAlGuardar(AlguienLoTieneAbierto(fichero) ? DWORD{ERROR_SHARING_VIOLATION} : error);
-        Sleep(ESPERA);
-    }
+    const DWORD error = Insiste([&] {
+        return MoveFileExW(Ruta.c_str(), fichero.c_str(),
+                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+    });
+    Colocado = error == ERROR_SUCCESS;
+    if (!Colocado) FallaAlGuardar(AlguienLoTieneAbierto(fichero) ? DWORD{ERROR_SHARING_VIOLATION} : error);
 }
 
 void QuitaSiNadieLoEscribe(const std::filesystem::path& fichero) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string_view>
 
 #include "adaptadores/docx/Asa_windows.h"
@@ -39,6 +40,11 @@ class TFicheroProvisional {
     TAsa Abierto;
     bool Colocado = false;
 };
+
+// Does it until it goes well, for a second at most as long as the reason may be that somebody has a file
+// open: a virus scanner and an indexer have it so for a moment. Returns the last error, or ERROR_SUCCESS. (To
+// replace such a file, the system also says that there is no permission.)
+[[nodiscard]] DWORD Insiste(const std::function<bool()>& accion);
 
 // The failure to save for an error that the system gives.
 [[noreturn]] void FallaAlGuardar(DWORD error);

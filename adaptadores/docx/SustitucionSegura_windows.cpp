@@ -28,8 +28,12 @@ void ExigeSustituible(const std::filesystem::path& fichero, DWORD atributos) {
     if ((atributos & FILE_ATTRIBUTE_DIRECTORY) != 0) throw FalloDocx("no se puede guardar: es una carpeta");
     if ((atributos & FILE_ATTRIBUTE_READONLY) != 0)
         throw FalloDocx("no se puede guardar: el fichero es de solo lectura");
-    const TAsa abierto = AbreFichero(fichero, GENERIC_WRITE | DELETE, CON_TODOS, OPEN_EXISTING, 0);
-    if (!abierto) FallaAlGuardar(GetLastError());
+    TAsa abierto;
+    const DWORD error = Insiste([&] {
+        abierto = AbreFichero(fichero, GENERIC_WRITE | DELETE, CON_TODOS, OPEN_EXISTING, 0);
+        return abierto != nullptr;
+    });
+    if (!abierto) FallaAlGuardar(error);
     if (GetFileType(abierto.get()) != FILE_TYPE_DISK)
         throw FalloDocx("no se puede guardar: no es un fichero normal");
 }

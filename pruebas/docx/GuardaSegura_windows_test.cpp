@@ -10,6 +10,7 @@
 #include "adaptadores/docx/Asa_windows.h"
 #include "adaptadores/docx/FalloDocx.h"
 #include "adaptadores/docx/SustitucionSegura.h"
+#include "plataforma/Rficheros.h"
 #include "pruebas/docx/GuardaSegura.h"
 
 namespace analizador::pruebas {
@@ -101,8 +102,13 @@ TEST_F(GuardaSegura, RehusaElQueSeAbreMientrasSeGuarda) {
 }
 
 TEST_F(GuardaSegura, EsperaAQuienLoTieneAbiertoUnMomento) {
-    TAsa indizador;
-    std::thread cierra;
+    TAsa indizador = ComoWord(Fichero);
+    std::thread cierra([&] {
+        Sleep(200);
+        indizador.reset();
+    });
+    EXPECT_EQ(Fallo(Fichero, NADA), "");
+    cierra.join();
     EXPECT_EQ(Fallo(Fichero,
                     [&] {
                         indizador = ComoWord(Fichero);
@@ -175,6 +181,64 @@ TEST_F(GuardaSegura, MientrasSeEscribeEstaOcultoYNadieLoQuita) {
               "");
     EXPECT_EQ(LeeBytes(Fichero), "otros bytes");
     EXPECT_EQ(Carpeta.Nombres().size(), 2U);
+}
+
+// ---- A process that is killed while it saves
+
+constexpr auto VARIABLE = L"GUARDA_SIN_PARAR";
+
+std::string MuchosBytes(char c) {
+    return std::string(1 << 20, c);
+}
+
+// What the killed process does: not a test by itself.
+TEST(GuardaSinParar, DISABLED_HastaQueLaMaten) {
+    std::wstring fichero(MAX_PATH, L'\0');
+    fichero.resize(GetEnvironmentVariableW(VARIABLE, fichero.data(), MAX_PATH));
+    ASSERT_FALSE(fichero.empty());
+    for (;;)
+        for (const char c : {'a', 'b'}) SustituyeFichero(fichero, MuchosBytes(c), NADA);
+}
+
+// This same program, saving.
+TAsa QuienGuardaSinParar(const std::filesystem::path& fichero) {
+    SetEnvironmentVariableW(VARIABLE, fichero.c_str());
+    std::wstring programa(MAX_PATH, L'\0');
+    programa.resize(GetModuleFileNameW(nullptr, programa.data(), MAX_PATH));
+    std::wstring orden =
+        L"\"" + programa + L"\" --gtest_also_run_disabled_tests --gtest_filter=GuardaSinParar.*";
+    STARTUPINFOW arranque{};
+    arranque.cb = sizeof arranque;
+    PROCESS_INFORMATION proceso{};
+    if (!CreateProcessW(programa.c_str(), orden.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        &arranque, &proceso))
+        return nullptr;
+    CloseHandle(proceso.hThread);
+    return TAsa(proceso.hProcess);
+}
+
+TEST_F(GuardaSegura, DeUnoQueMuereGuardandoQuedaElViejoOElNuevo) {
+    constexpr DWORD ARRANQUE_MAXIMO = 60'000, POCO = 10;
+    const auto inicial = MuchosBytes('0');
+    int restos = 0;
+    for (DWORD vez = 0; vez < 12; ++vez) {
+        EscribeFichero(Fichero, inicial);
+        const auto identidad = MarcaDeFichero(Fichero).Identidad;
+        const auto quien = QuienGuardaSinParar(Fichero);
+        ASSERT_TRUE(quien);
+        const auto comienzo = GetTickCount();
+        while (MarcaDeFichero(Fichero).Identidad == identidad && GetTickCount() - comienzo < ARRANQUE_MAXIMO)
+            Sleep(POCO);
+        Sleep(7 * vez);
+        TerminateProcess(quien.get(), 1);
+        WaitForSingleObject(quien.get(), ARRANQUE_MAXIMO);
+        const auto queda = LeeBytes(Fichero);
+        ASSERT_TRUE(queda == MuchosBytes('a') || queda == MuchosBytes('b')) << queda.size();
+        restos += Carpeta.Nombres().size() > 1 ? 1 : 0;
+        EXPECT_EQ(Fallo(Fichero, NADA), "");
+        EXPECT_EQ(Carpeta.Nombres().size(), 1U);
+    }
+    EXPECT_GT(restos, 0) << "nobody died in the middle of a saving";
 }
 
 }  // namespace
