@@ -4,6 +4,8 @@
 
 #include <random>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "pruebas/comun/Literales.h"
 
@@ -19,38 +21,38 @@ void EsperaLoMismo(std::string_view texto, std::string_view buscado) {
 }
 
 TEST(Encuentra, LoMismoQueLaBibliotecaComun) {
-    const std::vector<std::string> textos = {"",
-                                             "A",
-                                             "AA",
-                                             "AXA",
-                                             "COMPARECEN DON JUAN Y DON PEDRO",
-                                             "------- EXPONEN -------",
-                                             "D.N.I. 12-A",
-                                             "WWWWKWWWW",
-                                             std::string("con \0 dentro", 12),
-                                             "Otorgan: ÁÉÍ áéí ç"_a};
-    const std::vector<std::string> buscados = {"",
-                                               "A",
-                                               "AA",
-                                               "AXA",
-                                               "DON",
-                                               "JUAN",
-                                               "N",
-                                               "-",
-                                               "---",
-                                               " EXPONEN ",
-                                               "D.N.I.",
-                                               "WK",
-                                               "KW",
-                                               "Z",
-                                               "PEDRO",
-                                               "PEDROS",
-                                               std::string("\0", 1),
-                                               std::string("É"_ansi),
-                                               std::string("é"_ansi),
-                                               "Otorgan:"};
-    for (const auto& texto : textos)
-        for (const auto& buscado : buscados) EsperaLoMismo(texto, buscado);
+    const std::vector<std::string_view> textos = {"",
+                                                  "A",
+                                                  "AA",
+                                                  "AXA",
+                                                  "COMPARECEN DON JUAN Y DON PEDRO",
+                                                  "------- EXPONEN -------",
+                                                  "D.N.I. 12-A",
+                                                  "WWWWKWWWW",
+                                                  std::string_view("con \0 dentro", 12),
+                                                  "Otorgan: ÁÉÍ áéí ç"_a};
+    const std::vector<std::string_view> buscados = {"",
+                                                    "A",
+                                                    "AA",
+                                                    "AXA",
+                                                    "DON",
+                                                    "JUAN",
+                                                    "N",
+                                                    "-",
+                                                    "---",
+                                                    " EXPONEN ",
+                                                    "D.N.I.",
+                                                    "WK",
+                                                    "KW",
+                                                    "Z",
+                                                    "PEDRO",
+                                                    "PEDROS",
+                                                    std::string_view("\0", 1),
+                                                    "É"_a,
+                                                    "é"_a,
+                                                    "Otorgan:"};
+    for (const std::string_view texto : textos)
+        for (const std::string_view buscado : buscados) EsperaLoMismo(texto, buscado);
 }
 
 TEST(Encuentra, TambienEnTextosAlAzarDePocasLetras) {
