@@ -1,6 +1,8 @@
 // Where the sections of the deed are, and the walk over the paragraphs of each.
 
 #include <algorithm>
+#include <string>
+#include <utility>
 
 #include "analizador/ClaseAnalizadorAbierto.h"
 #include "analizador/ConstAnalizador.h"
@@ -22,23 +24,37 @@ constexpr TOpcionesBusqueda Opciones(bool mayusculas, bool palabras) {
 
 constexpr int POSICION_MAXIMA_DE_TITULO = 5;
 
-// A heading begins its paragraph, but for a few signs. An entry that is not in the plain text counts as one.
-bool EncabezaSuParrafo(const std::string& entrada, const TSeleccion& seleccion) {
-    const std::string parrafo = TraduceCaracteresExtranosDeWord(seleccion.GetTextoPrimerParrafo());
-    return Pos(entrada, Recorta(parrafo)) <= POSICION_MAXIMA_DE_TITULO;
-}
+// The paragraph in which an entry was found, in plain characters. Several are often found in the same one.
+class TParrafoLlano {
+  public:
+    // A heading begins its paragraph, but for a few signs. An entry that is not in the plain text counts as
+    // one.
+    [[nodiscard]] bool Encabeza(const std::string& entrada, const TSeleccion& seleccion) {
+        std::string escrito = seleccion.GetTextoPrimerParrafo();
+        if (escrito != escrito_) {
+            llano_ = TraduceCaracteresExtranosDeWord(escrito);
+            escrito_ = std::move(escrito);
+        }
+        return Pos(entrada, Recorta(llano_)) <= POSICION_MAXIMA_DE_TITULO;
+    }
+
+  private:
+    std::string escrito_;
+    std::string llano_;
+};
 
 // Looks for the first occurrence of each entry; of those that are headings the earliest in the document sets
 // the start. A start of 0 is one not set yet, so a heading at the very start of the document gives way to any
 // other.
 bool BuscaTitulo(TWordDocumentoCustom& documento, std::string_view seccion, int& inicio) {
     const auto fichero = AbreFicheroIni(TOKENS_INI());
+    TParrafoLlano parrafo;
     bool encontrado = false;
     for (const std::string& entrada : fichero->Palabras(seccion)) {
         documento.IrAlInicioDocumento();
         if (entrada.empty() || !documento.Busca(entrada, Opciones(true, true))) continue;
         const TSeleccion& seleccion = documento.GetSeleccion();
-        if (!EncabezaSuParrafo(entrada, seleccion)) continue;
+        if (!parrafo.Encabeza(entrada, seleccion)) continue;
         const int comienzo = seleccion.GetIntervalo().Inicio;
         if (comienzo < inicio || inicio == 0) inicio = comienzo;
         encontrado = true;

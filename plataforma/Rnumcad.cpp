@@ -66,10 +66,12 @@ bool EsFormaDeReal(std::string_view cifras) {
 }  // namespace
 
 std::string TraduceCaracteresExtranosDeWord(std::string_view texto) {
-    std::string llano;
-    llano.reserve(texto.size());
+    std::string llano(texto.size(), '\0');
+    std::size_t letras = 0;
     for (const char c : texto)
-        if (const auto traducido = CARACTERES_LLANOS[static_cast<unsigned char>(c)]) llano += *traducido;
+        if (const auto traducido = CARACTERES_LLANOS[static_cast<unsigned char>(c)])
+            llano[letras++] = *traducido;
+    llano.resize(letras);
     return llano;
 }
 

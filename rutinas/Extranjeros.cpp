@@ -106,20 +106,20 @@ struct TGentilicios {
 };
 
 // Reading them takes far longer than searching a paragraph, and every paragraph with parties asks for them:
-// so those of the rows seen last are kept, for all threads.
+// so those of the rows seen last are kept, of each language, for all threads.
 std::shared_ptr<const TGentilicios> Gentilicios(TTabla& paises) {
+    struct TGuardados {
+        std::shared_ptr<const void> Contenido;
+        std::shared_ptr<const TGentilicios> Gentilicios;
+    };
     static std::mutex cerrojo;
-    static std::shared_ptr<const void> contenido;
-    static bool castellanos = true;
-    static std::shared_ptr<const TGentilicios> gentilicios;
-    auto actual = paises.Contenido();
+    static std::array<TGuardados, 2> guardados;
+    auto contenido = paises.Contenido();
     const std::lock_guard guarda(cerrojo);
-    if (gentilicios == nullptr || actual == nullptr || actual != contenido || castellanos != EsCastellano()) {
-        gentilicios = std::make_shared<const TGentilicios>(paises);
-        contenido = std::move(actual);
-        castellanos = EsCastellano();
-    }
-    return gentilicios;
+    TGuardados& guardado = guardados[EsCastellano() ? 0 : 1];
+    if (guardado.Gentilicios == nullptr || contenido == nullptr || contenido != guardado.Contenido)
+        guardado = {std::move(contenido), std::make_shared<const TGentilicios>(paises)};
+    return guardado.Gentilicios;
 }
 
 // Puts a country in its place by position, before those at the same one.

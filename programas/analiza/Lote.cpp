@@ -108,7 +108,8 @@ void TCinta::EntregaLosPrimeros(TTurno& turno) {
         TTarea primera = std::move(FTareas.front());
         FTareas.pop_front();
         --FEmpezadas;
-        FHaySitio.notify_one();
+        // Woken for each deed, the thread that brings them would put one that analyses off its processor.
+        if (FTareas.size() == FCabida / 2) FHaySitio.notify_one();
         turno.unlock();
         FLote.Entrega(primera.Escritura, std::move(*primera.Resultado));
         turno.lock();
