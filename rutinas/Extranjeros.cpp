@@ -2,7 +2,6 @@
 #include <array>
 #include <memory>
 #include <mutex>
-#include <optional>
 #include <utility>
 
 #include "analizador/ConstAnalizador.h"
@@ -85,25 +84,23 @@ void BuscaPais(TTabla& paises, std::string_view plegado, TExtranjeria& extranjer
 
 struct TGentilicio {
     std::string Palabra;
-    std::size_t Pais;  // its place in TGentilicios::Paises
+    int Fila;  // its country's, from 0
 };
 
 // The words of the countries, one country after another as the table has them now, those of each in the order
 // in which they are tried.
-struct TGentilicios {
-    std::vector<TRPais> Paises;
-    std::vector<TGentilicio> Palabras;
+using TGentilicios = std::vector<TGentilicio>;
 
-    explicit TGentilicios(TTabla& paises) {
-        const auto& campos = EsCastellano() ? GENTILICIOS : GENTILICIOS_CATALANES;
-        for (paises.Primero(); !paises.Fin(); paises.Siguiente()) {
-            for (const std::string_view campo : campos)
-                if (std::string palabra = paises.Texto(campo); !palabra.empty())
-                    Palabras.push_back({std::move(palabra), Paises.size()});
-            Paises.push_back({paises.Texto("PROVINCIA"), paises.Entero("CODIGO"), {}, 0});
-        }
-    }
-};
+TGentilicios LeeGentilicios(TTabla& paises) {
+    const auto& campos = EsCastellano() ? GENTILICIOS : GENTILICIOS_CATALANES;
+    TGentilicios gentilicios;
+    int fila = 0;
+    for (paises.Primero(); !paises.Fin(); paises.Siguiente(), ++fila)
+        for (const std::string_view campo : campos)
+            if (std::string palabra = paises.Texto(campo); !palabra.empty())
+                gentilicios.push_back({std::move(palabra), fila});
+    return gentilicios;
+}
 
 // Reading them takes far longer than searching a paragraph, and every paragraph with parties asks for them:
 // so those of the rows seen last are kept, of each language, for all threads.
@@ -118,7 +115,7 @@ std::shared_ptr<const TGentilicios> Gentilicios(TTabla& paises) {
     const std::lock_guard guarda(cerrojo);
     TGuardados& guardado = guardados[EsCastellano() ? 0 : 1];
     if (guardado.Gentilicios == nullptr || contenido == nullptr || contenido != guardado.Contenido)
-        guardado = {std::move(contenido), std::make_shared<const TGentilicios>(paises)};
+        guardado = {std::move(contenido), std::make_shared<const TGentilicios>(LeeGentilicios(paises))};
     return guardado.Gentilicios;
 }
 
@@ -135,15 +132,17 @@ TPaises BuscaGentilicios(TTabla& paises, std::string_view plegado) {
     const TPalabrasEnteras palabras(EsCastellano() ? plegado : std::string_view(reescrito.Texto()));
     const auto gentilicios = Gentilicios(paises);
     TPaises hallados;
-    std::optional<std::size_t> tomado;  // one word of each country counts
-    for (const TGentilicio& gentilicio : gentilicios->Palabras) {
-        if (gentilicio.Pais == tomado) continue;
+    int fila = 0;     // of the table's row
+    int tomada = -1;  // one word of each country counts
+    paises.Primero();
+    for (const TGentilicio& gentilicio : *gentilicios) {
+        if (gentilicio.Fila == tomada) continue;
         const auto posicion = palabras.Busca(gentilicio.Palabra);
         if (!posicion) continue;
-        tomado = gentilicio.Pais;
-        TRPais pais = gentilicios->Paises[gentilicio.Pais];
-        pais.Texto = gentilicio.Palabra;
-        pais.Posicion = static_cast<int>(*posicion) + 1;
+        tomada = gentilicio.Fila;
+        for (; fila < tomada; ++fila) paises.Siguiente();
+        TRPais pais{paises.Texto("PROVINCIA"), paises.Entero("CODIGO"), gentilicio.Palabra,
+                    static_cast<int>(*posicion) + 1};
         Tramo donde{*posicion, gentilicio.Palabra.size()};
         if (!EsCastellano()) donde = reescrito.Original(donde);
         InsertaPais(hallados, {std::move(pais), donde});

@@ -146,8 +146,9 @@ void TEstructuraDbf::TraduceCampo(char* registro, const TCampoDbf& campo) const 
 }
 
 const TCampoDbf* TEstructuraDbf::BuscaCampo(std::string_view nombre) const {
+    if (nombre.empty()) return nullptr;
     for (const TCampoDbf& campo : campos_)
-        if (campo.Nombre == nombre) return &campo;
+        if (campo.Nombre.back() == nombre.back() && campo.Nombre == nombre) return &campo;
     const auto campo = std::find_if(campos_.begin(), campos_.end(),
                                     [&](const TCampoDbf& c) { return IgualSinCaja(c.Nombre, nombre); });
     return campo == campos_.end() ? nullptr : &*campo;
