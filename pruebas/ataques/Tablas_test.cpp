@@ -266,6 +266,9 @@ TEST_P(Reemplazo, LoQueSeHallaPorOtroOrdenEsTodoDeUnaVersion) {
 TEST_P(Reemplazo, UnaListaDePalabrasEsTodaDeUnaVersion) {
     const auto fichero = Carpeta / "CASTELLANO.INI";
     EscribeFichero(fichero, Lista(0));
+    const auto primera =
+        AbreFicheroIni(fichero);  // while it is being written the last copy counts: there is one
+    EXPECT_EQ(primera->LeeTexto("S0", "1", FALTA), Cifras(0));
     EsperaSegunModo(LeeMientrasSeEscribe(
         [&](std::uint64_t version) { Escribe(fichero, Lista(version), GetParam()); },
         [&] {
