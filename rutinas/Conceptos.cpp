@@ -1,12 +1,12 @@
 #include <algorithm>
 #include <map>
 #include <memory>
-#include <mutex>
 #include <utility>
 
 #include "plataforma/Confnvx.h"
 #include "plataforma/Rut.h"
 #include "plataforma/Ruttb.h"
+#include "rutinas/HechoDeTabla.h"
 #include "rutinas/RutAnalizador.h"
 #include "rutinas/TextoSin.h"
 
@@ -40,20 +40,11 @@ class TTiposPorPalabra {
     std::map<std::string, std::size_t, std::less<>> primero_;
 };
 
-// The deed types as the table has them now. They take far longer to sort out than a paragraph to search, and
-// every paragraph of a header asks for them: so those of the rows seen last are kept, for all threads.
+// The deed types as the table has them now: every paragraph of a header asks for them.
 std::shared_ptr<const TTiposPorPalabra> Tipos() {
-    static std::mutex cerrojo;
-    static std::shared_ptr<const void> contenido;
-    static std::shared_ptr<const TTiposPorPalabra> tipos;
+    static THechoDeTabla<TTiposPorPalabra> tipos;
     const auto tabla = CreaTabla(Config().GetAliasNorvex(), "TIPOS.DBF", "", true, false);
-    auto actual = tabla->Contenido();
-    const std::lock_guard guarda(cerrojo);
-    if (tipos == nullptr || actual == nullptr || actual != contenido) {
-        tipos = std::make_shared<const TTiposPorPalabra>(*tabla);
-        contenido = std::move(actual);
-    }
-    return tipos;
+    return tipos.De(*tabla, [](TTabla& filas) { return TTiposPorPalabra(filas); });
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <mutex>
 #include <utility>
 
 #include "analizador/ConstAnalizador.h"
@@ -10,6 +9,7 @@
 #include "plataforma/Rut.h"
 #include "plataforma/Ruttb.h"
 #include "rutinas/Buscador.h"
+#include "rutinas/HechoDeTabla.h"
 #include "rutinas/PalabrasEnteras.h"
 #include "rutinas/RutAnalizador.h"
 
@@ -102,21 +102,10 @@ TGentilicios LeeGentilicios(TTabla& paises) {
     return gentilicios;
 }
 
-// Reading them takes far longer than searching a paragraph, and every paragraph with parties asks for them:
-// so those of the rows seen last are kept, of each language, for all threads.
+// Those of the language of the deed: every paragraph with parties asks for them.
 std::shared_ptr<const TGentilicios> Gentilicios(TTabla& paises) {
-    struct TGuardados {
-        std::shared_ptr<const void> Contenido;
-        std::shared_ptr<const TGentilicios> Gentilicios;
-    };
-    static std::mutex cerrojo;
-    static std::array<TGuardados, 2> guardados;
-    auto contenido = paises.Contenido();
-    const std::lock_guard guarda(cerrojo);
-    TGuardados& guardado = guardados[EsCastellano() ? 0 : 1];
-    if (guardado.Gentilicios == nullptr || contenido == nullptr || contenido != guardado.Contenido)
-        guardado = {std::move(contenido), std::make_shared<const TGentilicios>(LeeGentilicios(paises))};
-    return guardado.Gentilicios;
+    static std::array<THechoDeTabla<TGentilicios>, 2> gentilicios;
+    return gentilicios[EsCastellano() ? 0 : 1].De(paises, LeeGentilicios);
 }
 
 // Puts a country in its place by position, before those at the same one.

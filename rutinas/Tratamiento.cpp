@@ -13,12 +13,6 @@ namespace {
 
 constexpr std::size_t NADA = std::string_view::npos;
 
-template <class TLista>
-auto DesdePosicion(TLista& ocurrencias, std::size_t posicion) {
-    return std::lower_bound(ocurrencias.begin(), ocurrencias.end(), posicion,
-                            [](const auto& ocurrencia, std::size_t p) { return ocurrencia.Posicion < p; });
-}
-
 }  // namespace
 
 TBuscadorTratamientos::TBuscadorTratamientos(std::string_view plegado)
@@ -45,7 +39,9 @@ void TBuscadorTratamientos::Localiza(TForma& forma) const {
     // starts the cut text and so counts.
     for (std::size_t i = ocurrencias.size(); i-- > 0;) {
         const std::size_t corte = ocurrencias[i].Posicion + entrada.size();
-        const auto siguiente = DesdePosicion(ocurrencias, corte);
+        const auto siguiente = std::lower_bound(
+            ocurrencias.begin(), ocurrencias.end(), corte,
+            [](const TOcurrencia& ocurrencia, std::size_t p) { return ocurrencia.Posicion < p; });
         if (siguiente == ocurrencias.end()) continue;
         if (siguiente->Cuenta || siguiente->Posicion == corte) {
             ocurrencias[i].Valida = siguiente->Posicion;
@@ -57,11 +53,20 @@ void TBuscadorTratamientos::Localiza(TForma& forma) const {
     }
 }
 
+const TBuscadorTratamientos::TOcurrencia* TBuscadorTratamientos::Primera(const TForma& forma,
+                                                                         std::size_t desde) {
+    const auto& ocurrencias = forma.Ocurrencias;
+    std::size_t& i = forma.Proxima;
+    if (i > 0 && ocurrencias[i - 1].Posicion >= desde) i = 0;
+    while (i < ocurrencias.size() && ocurrencias[i].Posicion < desde) ++i;
+    return i < ocurrencias.size() ? &ocurrencias[i] : nullptr;
+}
+
 TTratamiento TBuscadorTratamientos::Desde(std::size_t desde) const {
     TTratamiento mejor;
     for (const TForma& forma : formas_) {
-        const auto primera = DesdePosicion(forma.Ocurrencias, desde);
-        if (primera == forma.Ocurrencias.end()) continue;
+        const TOcurrencia* const primera = Primera(forma, desde);
+        if (primera == nullptr) continue;
         const bool cuenta = primera->Cuenta || primera->Posicion == desde;
         const std::size_t verdadera = cuenta ? primera->Posicion : primera->Valida;
         if (verdadera == NADA) continue;

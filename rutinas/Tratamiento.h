@@ -19,7 +19,7 @@ class TBuscadorTratamientos {
     explicit TBuscadorTratamientos(std::string_view plegado);
 
     // BuscaTratamiento of the text from `desde` (from 0) on: Posicion counts, with its approximation, in the
-    // text as cut there; Donde is in the whole text.
+    // text as cut there; Donde is in the whole text. Fast as long as `desde` does not go back.
     [[nodiscard]] TTratamiento Desde(std::size_t desde) const;
 
   private:
@@ -33,7 +33,10 @@ class TBuscadorTratamientos {
         std::string_view Entrada;
         char Sexo;
         std::vector<TOcurrencia> Ocurrencias;
+        mutable std::size_t Proxima = 0;  // of Ocurrencias, where the last question ended
     };
+    // The first occurrence at or after `desde`; null when there is none.
+    [[nodiscard]] static const TOcurrencia* Primera(const TForma& forma, std::size_t desde);
     void Localiza(TForma& forma) const;
 
     std::shared_ptr<const TFicheroIni> fichero_;

@@ -42,6 +42,12 @@ const std::vector<TCaso> CASOS = {
     {"X (UE) Y", "(UE)", 2},
     {"X(UE)Y", "(UE)", NADA},
     {"A A AB A A A", "A A A", 7},
+    // Of several words that begin a name, the one that the rest of it follows.
+    {"REINO DE LEON Y REINO UNIDO", "REINO UNIDO", 16},
+    {"REINO UNIDO", "REINO", 0},
+    {"REINOUNIDO REINO", "REINO", 11},
+    {"DE ÑU ÑANDU"_a, "ÑANDU"_a, 6},
+    {"DE  ESPAÑA"_a, " ESPAÑA"_a, 3},
 };
 
 }  // namespace
