@@ -24,22 +24,27 @@ constexpr TOpcionesBusqueda Opciones(bool mayusculas, bool palabras) {
 
 constexpr int POSICION_MAXIMA_DE_TITULO = 5;
 
-// The paragraph in which an entry was found, in plain characters. Several are often found in the same one.
+// The paragraph in which an entry was found, in plain characters. Several are often found in the same one,
+// which is read once.
 class TParrafoLlano {
   public:
+    explicit TParrafoLlano(TWordDocumentoCustom& documento) : documento_(documento) {}
+
     // A heading begins its paragraph, but for a few signs. An entry that is not in the plain text counts as
     // one.
-    [[nodiscard]] bool Encabeza(const std::string& entrada, const TSeleccion& seleccion) {
-        std::string escrito = seleccion.GetTextoPrimerParrafo();
-        if (escrito != escrito_) {
-            llano_ = TraduceCaracteresExtranosDeWord(escrito);
-            escrito_ = std::move(escrito);
+    [[nodiscard]] bool Encabeza(const std::string& entrada) {
+        const TSeleccion& seleccion = documento_.GetSeleccion();
+        const int comienzo = seleccion.GetIntervalo().Inicio;
+        if (comienzo < intervalo_.Inicio || comienzo >= intervalo_.Fin) {
+            intervalo_ = seleccion.GetPrimerParrafo();
+            llano_ = TraduceCaracteresExtranosDeWord(documento_.GetTexto(intervalo_));
         }
         return Pos(entrada, Recorta(llano_)) <= POSICION_MAXIMA_DE_TITULO;
     }
 
   private:
-    std::string escrito_;
+    TWordDocumentoCustom& documento_;
+    TIntervalo intervalo_;
     std::string llano_;
 };
 
@@ -48,14 +53,13 @@ class TParrafoLlano {
 // other.
 bool BuscaTitulo(TWordDocumentoCustom& documento, std::string_view seccion, int& inicio) {
     const auto fichero = AbreFicheroIni(TOKENS_INI());
-    TParrafoLlano parrafo;
+    TParrafoLlano parrafo(documento);
     bool encontrado = false;
     for (const std::string& entrada : fichero->Palabras(seccion)) {
         documento.IrAlInicioDocumento();
         if (entrada.empty() || !documento.Busca(entrada, Opciones(true, true))) continue;
-        const TSeleccion& seleccion = documento.GetSeleccion();
-        if (!parrafo.Encabeza(entrada, seleccion)) continue;
-        const int comienzo = seleccion.GetIntervalo().Inicio;
+        if (!parrafo.Encabeza(entrada)) continue;
+        const int comienzo = documento.GetSeleccion().GetIntervalo().Inicio;
         if (comienzo < inicio || inicio == 0) inicio = comienzo;
         encontrado = true;
     }

@@ -82,7 +82,8 @@ class TSeleccion {
     // CR. Without `extiende` the selection collapses there, or before the last CR.
     virtual void BajaParrafo(bool extiende) = 0;
 
-    // The text of the paragraph that holds the selection's start, its CR included.
+    // The paragraph that holds the selection's start, and its text, the CR included in both.
+    [[nodiscard]] virtual TIntervalo GetPrimerParrafo() const = 0;
     [[nodiscard]] virtual std::string GetTextoPrimerParrafo() const = 0;
 };
 

@@ -66,8 +66,12 @@ void TSeleccionMemoria::BajaParrafo(bool extiende) {
     PonIntervalo({extiende ? FIntervalo.Inicio : fin, fin});
 }
 
+TIntervalo TSeleccionMemoria::GetPrimerParrafo() const {
+    return FParrafos.ParrafoDe(FIntervalo.Inicio);
+}
+
 std::string TSeleccionMemoria::GetTextoPrimerParrafo() const {
-    return Trozo(FTexto, FParrafos.ParrafoDe(FIntervalo.Inicio));
+    return Trozo(FTexto, GetPrimerParrafo());
 }
 
 TDocumentoMemoria::TDocumentoMemoria(TContenidoDocumento contenido)

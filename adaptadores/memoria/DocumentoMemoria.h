@@ -26,6 +26,7 @@ class TSeleccionMemoria : public TSeleccion {
     void PonIntervalo(TIntervalo intervalo) override { FIntervalo = FParrafos.Acota(intervalo); }
     void SubeParrafo(bool extiende) override;
     void BajaParrafo(bool extiende) override;
+    [[nodiscard]] TIntervalo GetPrimerParrafo() const override;
     [[nodiscard]] std::string GetTextoPrimerParrafo() const override;
 
   private:

@@ -59,8 +59,12 @@ void TDocumentoWord::TSeleccionWord::BajaParrafo(bool extiende) {
     PonIntervalo({extiende ? FIntervalo.Inicio : fin, fin});
 }
 
+TIntervalo TDocumentoWord::TSeleccionWord::GetPrimerParrafo() const {
+    return FDocumento.ParrafoDe(FIntervalo.Inicio);
+}
+
 std::string TDocumentoWord::TSeleccionWord::GetTextoPrimerParrafo() const {
-    return FDocumento.FTexto.Lee(FDocumento.ParrafoDe(FIntervalo.Inicio));
+    return FDocumento.GetTexto(GetPrimerParrafo());
 }
 
 TDocumentoWord::TDocumentoWord(TObjetoWord documento)
