@@ -17,15 +17,15 @@ std::vector<TParrafo> ParrafosDe(const TWordDocumentoCustom& documento, TInterva
 
 namespace {
 
-// Whether a character disappears when a text of the word processor is made plain.
-bool Desaparece(char caracter) {
+// For each character, whether it disappears when a text of the word processor is made plain.
+const std::array<bool, 256>& Desaparecen() {
     static const auto TABLA = [] {
         std::array<bool, 256> tabla{};
         for (std::size_t i = 0; i < tabla.size(); ++i)
             tabla[i] = TraduceCaracteresExtranosDeWord(std::string(1, static_cast<char>(i))).empty();
         return tabla;
     }();
-    return TABLA[static_cast<unsigned char>(caracter)];
+    return TABLA;
 }
 
 }  // namespace
@@ -33,8 +33,9 @@ bool Desaparece(char caracter) {
 TPosicionesPorParrafo::TPosicionesPorParrafo(std::string_view texto, int primerParrafo,
                                              std::size_t desplazamiento)
     : comienzos_{0}, primerParrafo_(primerParrafo), desplazamiento_(desplazamiento) {
+    const auto& desaparece = Desaparecen();
     for (std::size_t i = 0; i < texto.size(); ++i) {
-        if (Desaparece(texto[i]))
+        if (desaparece[static_cast<unsigned char>(texto[i])])
             ausentes_.push_back(i);
         else if (texto[i] == '\r')
             comienzos_.push_back(i + 1);

@@ -94,7 +94,7 @@ void EscribeFilas(const std::string& titulo, const std::vector<TCaso>& casos,
 // Measures the cases and writes them; false when one grows too fast. Noise only adds, so what seems to grow
 // is measured again and the least of each size counts.
 bool Comprueba(const std::string& titulo, const std::vector<TCaso>& casos) {
-    constexpr int INTENTOS = 5;
+    constexpr int INTENTOS = 15;
     std::vector<TCoste> costes(casos.size(), {HUGE_VAL, 0});
     bool lineal = false;
     for (int intento = 0; intento < INTENTOS && !lineal; ++intento) {

@@ -35,7 +35,11 @@ std::string QuitaAcentoMayMin(std::string_view texto) {
 }
 
 std::string Pliega(std::string_view texto) {
-    return AnsiUpperCase(QuitaAcentoMayMin(texto));
+    // Of each byte, so that a long text is gone through once.
+    static const std::string PLEGADAS = AnsiUpperCase(std::string_view(SIN_ACENTO.data(), SIN_ACENTO.size()));
+    std::string plegado(texto);
+    for (char& c : plegado) c = PLEGADAS[static_cast<unsigned char>(c)];
+    return plegado;
 }
 
 std::string Actuacion_INTI(int codigo, TTabla* tabla) {

@@ -43,7 +43,7 @@ constexpr std::array<char, 256> COMPARABLES = [] {
     return comparables;
 }();
 
-std::string Comparable(std::string_view texto) {
+std::string HazComparable(std::string_view texto) {
     std::string salida(texto.size(), '\0');
     std::size_t letras = 0;
     for (const char c : texto) {
@@ -98,10 +98,10 @@ void CompruebaOpciones(std::string_view buscado, const TOpcionesBusqueda& opcion
 
 }  // namespace
 
-TBuscador::TBuscador(std::string_view texto) : FTexto(Comparable(texto)), FMayusculas(AnsiUpperCase(FTexto)) {
-    FPosiciones.reserve(FTexto.size());
-    for (std::size_t i = 0; i < texto.size(); ++i)
-        if (!EsGuionOpcional(texto[i])) FPosiciones.push_back(static_cast<int>(i));
+TBuscador::TBuscador(std::string_view texto)
+    : FTexto(HazComparable(texto)), FMayusculas(AnsiUpperCase(FTexto)) {
+    for (std::size_t i = 0; FGuiones.size() < texto.size() - FTexto.size(); ++i)
+        if (EsGuionOpcional(texto[i])) FGuiones.push_back(static_cast<int>(i));
     for (std::size_t i = 0; i + RACHA <= FMayusculas.size(); ++i) FRachas.set(SumaDeRacha(&FMayusculas[i]));
 }
 
@@ -118,24 +118,38 @@ bool TBuscador::PuedeEstar(std::string_view mayusculas) const {
     return true;
 }
 
+std::size_t TBuscador::Comparable(int posicion) const {
+    const auto antes = std::lower_bound(FGuiones.begin(), FGuiones.end(), posicion) - FGuiones.begin();
+    return static_cast<std::size_t>(posicion - antes);
+}
+
+int TBuscador::EnElTexto(std::size_t comparable) const {
+    std::size_t antes = 0;
+    std::size_t hasta = FGuiones.size();  // how many hyphens stand before it lies in [antes, hasta]
+    while (antes < hasta) {
+        const std::size_t medio = (antes + hasta) / 2;
+        if (static_cast<std::size_t>(FGuiones[medio]) - medio <= comparable)
+            antes = medio + 1;
+        else
+            hasta = medio;
+    }
+    return static_cast<int>(comparable + antes);
+}
+
 std::optional<TIntervalo> TBuscador::Busca(std::string_view buscado, const TOpcionesBusqueda& opciones,
                                            TIntervalo desde) const {
     CompruebaOpciones(buscado, opciones);
     const bool mayusculas = !opciones.DistingueMayusculas;
-    const std::string clave = mayusculas ? AnsiUpperCase(Comparable(buscado)) : Comparable(buscado);
+    const std::string clave = mayusculas ? AnsiUpperCase(HazComparable(buscado)) : HazComparable(buscado);
     if (clave.empty() || !PuedeEstar(mayusculas ? clave : AnsiUpperCase(clave))) return std::nullopt;
 
     const TBusqueda busqueda{mayusculas ? FMayusculas : FTexto, clave, opciones.PalabrasCompletas};
-    const auto comparable = [this](int posicion) {
-        const auto lugar = std::lower_bound(FPosiciones.begin(), FPosiciones.end(), posicion);
-        return static_cast<std::size_t>(lugar - FPosiciones.begin());
-    };
-    auto inicio = opciones.Adelante ? busqueda.Primera(comparable(desde.Fin))
-                                    : busqueda.Ultima(comparable(desde.Inicio));
+    auto inicio = opciones.Adelante ? busqueda.Primera(Comparable(desde.Fin))
+                                    : busqueda.Ultima(Comparable(desde.Inicio));
     if (inicio == NO_ESTA && opciones.Continua)
         inicio = opciones.Adelante ? busqueda.Primera(0) : busqueda.Ultima(FTexto.size());
     if (inicio == NO_ESTA) return std::nullopt;
-    return TIntervalo{FPosiciones[inicio], FPosiciones[inicio + clave.size() - 1] + 1};
+    return TIntervalo{EnElTexto(inicio), EnElTexto(inicio + clave.size() - 1) + 1};
 }
 
 }  // namespace analizador

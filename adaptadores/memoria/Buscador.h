@@ -40,10 +40,13 @@ class TBuscador {
     static constexpr std::size_t SUMAS = std::size_t{1} << 18U;
     [[nodiscard]] static std::size_t SumaDeRacha(const char* racha);
     [[nodiscard]] bool PuedeEstar(std::string_view mayusculas) const;
+    // Where in FTexto a position of the text has come to stand, and the other way round.
+    [[nodiscard]] std::size_t Comparable(int posicion) const;
+    [[nodiscard]] int EnElTexto(std::size_t comparable) const;
 
-    std::string FTexto;            // equal characters made one, optional hyphens left out
-    std::string FMayusculas;       // the same in capitals
-    std::vector<int> FPosiciones;  // of each character of FTexto in the text
+    std::string FTexto;         // equal characters made one, optional hyphens left out
+    std::string FMayusculas;    // the same in capitals
+    std::vector<int> FGuiones;  // the positions in the text of the optional hyphens
     // The runs of four characters that FMayusculas has, by their sum: most of what is looked for is not in
     // the text, and is known not to be by a run that the text has not.
     std::bitset<SUMAS> FRachas;
