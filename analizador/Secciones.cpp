@@ -28,22 +28,19 @@ constexpr int POSICION_MAXIMA_DE_TITULO = 5;
 // which is read once.
 class TParrafoLlano {
   public:
-    explicit TParrafoLlano(TWordDocumentoCustom& documento) : documento_(documento) {}
-
     // A heading begins its paragraph, but for a few signs. An entry that is not in the plain text counts as
     // one.
-    [[nodiscard]] bool Encabeza(const std::string& entrada) {
-        const TSeleccion& seleccion = documento_.GetSeleccion();
+    [[nodiscard]] bool Encabeza(const std::string& entrada, const TSeleccion& seleccion) {
         const int comienzo = seleccion.GetIntervalo().Inicio;
         if (comienzo < intervalo_.Inicio || comienzo >= intervalo_.Fin) {
-            intervalo_ = seleccion.GetPrimerParrafo();
-            llano_ = TraduceCaracteresExtranosDeWord(documento_.GetTexto(intervalo_));
+            const auto [intervalo, texto] = seleccion.GetPrimerParrafo();
+            intervalo_ = intervalo;
+            llano_ = TraduceCaracteresExtranosDeWord(texto);
         }
         return Pos(entrada, Recorta(llano_)) <= POSICION_MAXIMA_DE_TITULO;
     }
 
   private:
-    TWordDocumentoCustom& documento_;
     TIntervalo intervalo_;
     std::string llano_;
 };
@@ -53,13 +50,14 @@ class TParrafoLlano {
 // other.
 bool BuscaTitulo(TWordDocumentoCustom& documento, std::string_view seccion, int& inicio) {
     const auto fichero = AbreFicheroIni(TOKENS_INI());
-    TParrafoLlano parrafo(documento);
+    TParrafoLlano parrafo;
     bool encontrado = false;
     for (const std::string& entrada : fichero->Palabras(seccion)) {
         documento.IrAlInicioDocumento();
         if (entrada.empty() || !documento.Busca(entrada, Opciones(true, true))) continue;
-        if (!parrafo.Encabeza(entrada)) continue;
-        const int comienzo = documento.GetSeleccion().GetIntervalo().Inicio;
+        const TSeleccion& seleccion = documento.GetSeleccion();
+        if (!parrafo.Encabeza(entrada, seleccion)) continue;
+        const int comienzo = seleccion.GetIntervalo().Inicio;
         if (comienzo < inicio || inicio == 0) inicio = comienzo;
         encontrado = true;
     }

@@ -60,6 +60,12 @@ struct TOpcionesBusqueda {
     bool Formato = false;
 };
 
+// A paragraph of the document and where it is. The text need not be as long as the stretch.
+struct TParrafoDocumento {
+    TIntervalo Intervalo;
+    std::string Texto;
+};
+
 class TSeleccion {
   public:
     virtual ~TSeleccion() = default;
@@ -82,9 +88,9 @@ class TSeleccion {
     // CR. Without `extiende` the selection collapses there, or before the last CR.
     virtual void BajaParrafo(bool extiende) = 0;
 
-    // The paragraph that holds the selection's start, and its text, the CR included in both.
-    [[nodiscard]] virtual TIntervalo GetPrimerParrafo() const = 0;
-    [[nodiscard]] virtual std::string GetTextoPrimerParrafo() const = 0;
+    // The paragraph that holds the selection's start, its CR included.
+    [[nodiscard]] virtual TParrafoDocumento GetPrimerParrafo() const = 0;
+    [[nodiscard]] std::string GetTextoPrimerParrafo() const { return GetPrimerParrafo().Texto; }
 };
 
 class TWordDocumentoCustom {

@@ -66,12 +66,9 @@ void TSeleccionMemoria::BajaParrafo(bool extiende) {
     PonIntervalo({extiende ? FIntervalo.Inicio : fin, fin});
 }
 
-TIntervalo TSeleccionMemoria::GetPrimerParrafo() const {
-    return FParrafos.ParrafoDe(FIntervalo.Inicio);
-}
-
-std::string TSeleccionMemoria::GetTextoPrimerParrafo() const {
-    return Trozo(FTexto, GetPrimerParrafo());
+TParrafoDocumento TSeleccionMemoria::GetPrimerParrafo() const {
+    const auto intervalo = FParrafos.ParrafoDe(FIntervalo.Inicio);
+    return {intervalo, Trozo(FTexto, intervalo)};
 }
 
 TDocumentoMemoria::TDocumentoMemoria(TContenidoDocumento contenido)

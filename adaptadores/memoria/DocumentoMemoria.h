@@ -26,8 +26,7 @@ class TSeleccionMemoria : public TSeleccion {
     void PonIntervalo(TIntervalo intervalo) override { FIntervalo = FParrafos.Acota(intervalo); }
     void SubeParrafo(bool extiende) override;
     void BajaParrafo(bool extiende) override;
-    [[nodiscard]] TIntervalo GetPrimerParrafo() const override;
-    [[nodiscard]] std::string GetTextoPrimerParrafo() const override;
+    [[nodiscard]] TParrafoDocumento GetPrimerParrafo() const override;
 
   private:
     const std::string& FTexto;

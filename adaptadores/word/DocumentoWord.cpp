@@ -59,12 +59,9 @@ void TDocumentoWord::TSeleccionWord::BajaParrafo(bool extiende) {
     PonIntervalo({extiende ? FIntervalo.Inicio : fin, fin});
 }
 
-TIntervalo TDocumentoWord::TSeleccionWord::GetPrimerParrafo() const {
-    return FDocumento.ParrafoDe(FIntervalo.Inicio);
-}
-
-std::string TDocumentoWord::TSeleccionWord::GetTextoPrimerParrafo() const {
-    return FDocumento.GetTexto(GetPrimerParrafo());
+TParrafoDocumento TDocumentoWord::TSeleccionWord::GetPrimerParrafo() const {
+    const auto intervalo = FDocumento.ParrafoDe(FIntervalo.Inicio);
+    return {intervalo, FDocumento.FTexto.Lee(intervalo)};
 }
 
 TDocumentoWord::TDocumentoWord(TObjetoWord documento)

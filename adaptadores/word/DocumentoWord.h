@@ -44,8 +44,7 @@ class TDocumentoWord : public TWordDocumentoCustom {
         void PonIntervalo(TIntervalo intervalo) override { FIntervalo = FDocumento.Acota(intervalo); }
         void SubeParrafo(bool extiende) override;
         void BajaParrafo(bool extiende) override;
-        [[nodiscard]] TIntervalo GetPrimerParrafo() const override;
-        [[nodiscard]] std::string GetTextoPrimerParrafo() const override;
+        [[nodiscard]] TParrafoDocumento GetPrimerParrafo() const override;
 
       private:
         const TDocumentoWord& FDocumento;

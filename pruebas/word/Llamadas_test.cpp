@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -42,11 +43,11 @@ TSeccionesDePrueba Vocabulario(std::size_t entradasDeMas) {
 }
 
 int LlamadasCon(const std::vector<std::string_view>& escritura, const std::vector<TMarcador>& marcadores = {},
-                std::size_t entradasDeMas = 0) {
+                const TSeccionesDePrueba& vocabulario = Vocabulario(0)) {
     const auto& word = TWordDePrueba::EnMarcha();
     word.Abre({Parrafos(escritura), marcadores, {}});
     TEscena escena(escritura);
-    escena.Vocabulario.Pon(TIdioma::Castellano, Vocabulario(entradasDeMas));
+    escena.Vocabulario.Pon(TIdioma::Castellano, vocabulario);
     TAplicacionWord aplicacion;
     TClassAnalizadorAbierto sesion(nullptr, &aplicacion);
     (void)sesion.Analiza(true);
@@ -56,7 +57,7 @@ int LlamadasCon(const std::vector<std::string_view>& escritura, const std::vecto
 
 int Llamadas(int parrafosDeMas, const std::vector<TMarcador>& marcadores = {},
              std::size_t entradasDeMas = 0) {
-    return LlamadasCon(Escritura(parrafosDeMas), marcadores, entradasDeMas);
+    return LlamadasCon(Escritura(parrafosDeMas), marcadores, Vocabulario(entradasDeMas));
 }
 
 std::vector<std::string_view> Sin(std::vector<std::string_view> encabezados) {
@@ -82,6 +83,23 @@ TEST(LlamadasAWord, CadaEntradaQueNoEstaCuestaTres) {
     const int sinNinguna = Llamadas(1);
     EXPECT_EQ(Llamadas(1, {}, 1), sinNinguna + 3);
     EXPECT_EQ(Llamadas(1, {}, 20), sinNinguna + 60);
+}
+
+// What it costs that one more entry of the headings' section is found: to look for it and where it is; its
+// paragraph too, unless that of the entry before is the same.
+TEST(LlamadasAWord, CadaEntradaQueEstaCuestaCincoYSuParrafoOnce) {
+    auto escritura = Escritura(1);
+    std::replace(escritura.begin(), escritura.end(), std::string_view("EXPONEN"),
+                 std::string_view("EXPONEN y OTORGAN"));
+    const auto llamadasCon = [&](std::string_view otra) {
+        auto vocabulario = Vocabulario(0);
+        for (auto& [seccion, entradas] : vocabulario)
+            if (seccion == "EXPONEN" && !otra.empty()) entradas.emplace_back(otra);
+        return LlamadasCon(escritura, {}, vocabulario);
+    };
+    const int una = llamadasCon("");
+    EXPECT_EQ(llamadasCon("OTORGAN"), una + 5);
+    EXPECT_EQ(llamadasCon("COMPRAVENTA"), una + 5 + 11);
 }
 
 constexpr int CADA_SECCION = 18;
