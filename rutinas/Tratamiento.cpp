@@ -1,9 +1,10 @@
 #include "rutinas/Tratamiento.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 #include "analizador/ConstAnalizador.h"
-#include "plataforma/Encuentra.h"
 #include "plataforma/Rnumcad.h"
 #include "plataforma/Rut.h"
 
@@ -20,25 +21,42 @@ TBuscadorTratamientos::TBuscadorTratamientos(std::string_view plegado)
     constexpr std::string_view SEXOS = "HM";
     for (std::size_t s = 0; s < CONST_SECCION_SEXOS.size(); ++s)
         for (const std::string& entrada : fichero_->Palabras(CONST_SECCION_SEXOS[s]))
-            if (!entrada.empty()) {
-                TForma forma{entrada, SEXOS[s], {}};
-                Localiza(forma);
-                if (!forma.Ocurrencias.empty()) formas_.push_back(std::move(forma));
-            }
+            if (!entrada.empty()) formas_.push_back({entrada, SEXOS[s], {}, -1});
+    Localiza();
+    std::erase_if(formas_, [](const TForma& forma) { return forma.Ocurrencias.empty(); });
+    for (TForma& forma : formas_) EncadenaFalsas(forma);
 }
 
-void TBuscadorTratamientos::Localiza(TForma& forma) const {
-    auto& ocurrencias = forma.Ocurrencias;
-    const std::string_view entrada = forma.Entrada;
-    for (std::size_t p = Encuentra(texto_, entrada); p != NADA; p = Encuentra(texto_, entrada, p + 1)) {
-        if (p + entrada.size() >= texto_.size() || texto_[p + entrada.size()] != ' ') continue;
-        const char anterior = p == 0 ? ' ' : texto_[p - 1];
-        ocurrencias.push_back({p, anterior == ' ' || anterior == '\n' || anterior == '\r', NADA, 0});
+// A blank follows each occurrence: at each blank the forms that end in the letter before it are tried.
+void TBuscadorTratamientos::Localiza() {
+    std::array<int, 256> porUltima{};
+    porUltima.fill(-1);
+    for (std::size_t i = 0; i < formas_.size(); ++i) {
+        int& ultima = porUltima[static_cast<unsigned char>(formas_[i].Entrada.back())];
+        formas_[i].MismaUltima = std::exchange(ultima, static_cast<int>(i));
     }
-    // After a false one the search goes on at the blank behind it; an occurrence that begins just there
-    // starts the cut text and so counts.
+    for (std::size_t blanco = texto_.find(' ', 1); blanco != NADA; blanco = texto_.find(' ', blanco + 1)) {
+        const std::string_view antes = texto_.substr(0, blanco);
+        int i = porUltima[static_cast<unsigned char>(antes.back())];
+        while (i >= 0) {
+            TForma& forma = formas_[static_cast<std::size_t>(i)];
+            if (antes.ends_with(forma.Entrada)) {
+                const std::size_t p = blanco - forma.Entrada.size();
+                const char anterior = p == 0 ? ' ' : texto_[p - 1];
+                forma.Ocurrencias.push_back(
+                    {p, anterior == ' ' || anterior == '\n' || anterior == '\r', NADA, 0});
+            }
+            i = forma.MismaUltima;
+        }
+    }
+}
+
+// After a false one the search goes on at the blank behind it; an occurrence that begins just there starts
+// the cut text and so counts.
+void TBuscadorTratamientos::EncadenaFalsas(TForma& forma) {
+    auto& ocurrencias = forma.Ocurrencias;
     for (std::size_t i = ocurrencias.size(); i-- > 0;) {
-        const std::size_t corte = ocurrencias[i].Posicion + entrada.size();
+        const std::size_t corte = ocurrencias[i].Posicion + forma.Entrada.size();
         const auto siguiente = std::lower_bound(
             ocurrencias.begin(), ocurrencias.end(), corte,
             [](const TOcurrencia& ocurrencia, std::size_t p) { return ocurrencia.Posicion < p; });

@@ -11,8 +11,8 @@
 namespace analizador {
 
 // The forms of address of one folded text, asked for again and again from positions that move on. Every
-// occurrence of every form is found once, so that a long paragraph costs one pass for each form however many
-// people it names.
+// occurrence of every form is found at the start, in one pass over the text, so that a long paragraph costs
+// the same however many people it names.
 class TBuscadorTratamientos {
   public:
     // `plegado` is folded already and must outlive the object.
@@ -33,11 +33,13 @@ class TBuscadorTratamientos {
         std::string_view Entrada;
         char Sexo;
         std::vector<TOcurrencia> Ocurrencias;
+        int MismaUltima;                  // of formas_, the next one with the same last letter; -1: none
         mutable std::size_t Proxima = 0;  // of Ocurrencias, where the last question ended
     };
     // The first occurrence at or after `desde`; null when there is none.
     [[nodiscard]] static const TOcurrencia* Primera(const TForma& forma, std::size_t desde);
-    void Localiza(TForma& forma) const;
+    void Localiza();
+    static void EncadenaFalsas(TForma& forma);
 
     std::shared_ptr<const TFicheroIni> fichero_;
     std::string_view texto_;
