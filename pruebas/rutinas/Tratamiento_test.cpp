@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
+#include <vector>
+
 #include "plataforma/Rut.h"
 #include "pruebas/comun/Literales.h"
 #include "pruebas/comun/Tramos.h"
@@ -75,13 +78,17 @@ TEST_F(Tratamiento, BuscaTratamiento) {
     }
 }
 
-// Asking from a position is the same as asking about the text cut there.
+// Asking from a position is the same as asking about the text cut there, whether positions move on or back.
 TEST_F(Tratamiento, DesdeUnaPosicionEsComoElTextoCortado) {
     std::string texto;
     for (const auto& caso : CASOS) texto.append(caso.Texto).append(" ");
     texto = Pliega(texto + "DON DON DON CORDON DON DON DO\xD1" + "A DON ");
     const TBuscadorTratamientos buscador(texto);
-    for (std::size_t desde = 0; desde <= texto.size(); ++desde) {
+    std::vector<std::size_t> posiciones(texto.size() + 1);
+    std::iota(posiciones.begin(), posiciones.end(), 0);
+    const std::vector<std::size_t> atras(posiciones.rbegin(), posiciones.rend());
+    posiciones.insert(posiciones.end(), atras.begin(), atras.end());
+    for (const std::size_t desde : posiciones) {
         const TTratamiento cortado = BuscaTratamiento(texto.substr(desde));
         const TTratamiento hallado = buscador.Desde(desde);
         ASSERT_EQ(hallado.Posicion, cortado.Posicion) << desde;
