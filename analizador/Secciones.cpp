@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 
 #include "analizador/ClaseAnalizadorAbierto.h"
 #include "analizador/ConstAnalizador.h"

@@ -16,7 +16,7 @@ std::uint32_t Suma(char primero, std::uint32_t resto) {
 }
 
 // The word with which a text that is not empty begins: its letters, or one character that is none.
-std::string_view PrimeraPalabra(std::string_view texto) {
+std::string_view PalabraInicial(std::string_view texto) {
     const auto fin = std::find_if_not(texto.begin(), texto.end(), EsLetra);
     return texto.substr(0, std::max<std::size_t>(1, static_cast<std::size_t>(fin - texto.begin())));
 }
@@ -43,7 +43,7 @@ TPalabrasEnteras::TPalabrasEnteras(std::string_view texto) : texto_(texto) {
 
 std::optional<std::size_t> TPalabrasEnteras::Busca(std::string_view nombre) const {
     if (nombre.empty()) return std::nullopt;
-    const std::string_view palabra = PrimeraPalabra(nombre);
+    const std::string_view palabra = PalabraInicial(nombre);
     std::uint32_t suma = 0;
     for (auto c = palabra.rbegin(); c != palabra.rend(); ++c) suma = Suma(*c, suma);
     for (std::uint32_t p = primeros_[suma % SUMAS]; p != NADA; p = principios_[p].Siguiente) {
